@@ -1,0 +1,124 @@
+#include "core/text.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "core/runtime_failure.h"
+
+namespace orrivane::text {
+
+namespace {
+
+void Require_Length(long long length) {
+  if (length < 0) throw RuntimeFailure(kInvalidProcedureCall);
+}
+
+void Require_Start(long long start) {
+  if (start < 1) throw RuntimeFailure(kInvalidProcedureCall);
+}
+
+}  // namespace
+
+std::string Left(std::string_view s, long long length) {
+  Require_Length(length);
+  return std::string(s.substr(0, static_cast<std::size_t>(std::min<long long>(length, Len(s)))));
+}
+
+std::string Right(std::string_view s, long long length) {
+  Require_Length(length);
+  const long long n = std::min<long long>(length, Len(s));
+  return std::string(s.substr(s.size() - static_cast<std::size_t>(n)));
+}
+
+std::string Mid(std::string_view s, long long start) {
+  Require_Start(start);
+  if (start > Len(s)) return {};
+  return std::string(s.substr(static_cast<std::size_t>(start - 1)));
+}
+
+std::string Mid(std::string_view s, long long start, long long length) {
+  Require_Start(start);
+  Require_Length(length);
+  if (start > Len(s)) return {};
+  return std::string(s.substr(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(length)));
+}
+
+long long InStr(std::string_view s, std::string_view find, long long start) {
+  Require_Start(start);
+  if (start > Len(s) + 1) return 0;
+  const auto at = s.find(find, static_cast<std::size_t>(start - 1));
+  return at == std::string_view::npos ? 0 : static_cast<long long>(at) + 1;
+}
+
+long long InStrRev(std::string_view s, std::string_view find) {
+  const auto at = s.rfind(find);
+  return at == std::string_view::npos ? 0 : static_cast<long long>(at) + 1;
+}
+
+long long Len(std::string_view s) { return static_cast<long long>(s.size()); }
+
+std::string LTrim(std::string_view s) {
+  const auto first = s.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string() : std::string(s.substr(first));
+}
+
+std::string RTrim(std::string_view s) {
+  const auto last = s.find_last_not_of(' ');
+  return last == std::string_view::npos ? std::string() : std::string(s.substr(0, last + 1));
+}
+
+std::string Trim(std::string_view s) { return LTrim(RTrim(s)); }
+
+std::string UCase(std::string_view s) {
+  std::string out(s);
+  std::transform(out.begin(), out.end(), out.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return out;
+}
+
+std::string LCase(std::string_view s) {
+  std::string out(s);
+  std::transform(out.begin(), out.end(), out.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return out;
+}
+
+double Val(std::string_view s) {
+  std::size_t i = 0;
+  while (i < s.size() && (s[i] == ' ' || s[i] == '\t')) ++i;
+  double sign = 1;
+  if (i < s.size() && (s[i] == '-' || s[i] == '+')) sign = s[i++] == '-' ? -1 : 1;
+  double value = 0;
+  while (i < s.size() && std::isdigit(static_cast<unsigned char>(s[i]))) value = value * 10 + (s[i++] - '0');
+  if (i < s.size() && s[i] == '.') {
+    double scale = 0.1;
+    for (++i; i < s.size() && std::isdigit(static_cast<unsigned char>(s[i])); ++i, scale /= 10) {
+      value += (s[i] - '0') * scale;
+    }
+  }
+  return sign * value;
+}
+
+std::string Pad_Zero(long long number, int width) {
+  std::string digits = std::to_string(number < 0 ? -number : number);
+  if (static_cast<int>(digits.size()) < width) digits.insert(0, width - digits.size(), '0');
+  return number < 0 ? "-" + digits : digits;
+}
+
+bool Ends_With(std::string_view s, std::string_view tail) {
+  return s.size() >= tail.size() && s.substr(s.size() - tail.size()) == tail;
+}
+
+bool Starts_With(std::string_view s, std::string_view head) { return s.substr(0, head.size()) == head; }
+
+std::string One_Line(std::string_view s) {
+  std::string out;
+  for (char c : s) {
+    const char put = (c == '\r' || c == '\n') ? ' ' : c;
+    if (put == ' ' && !out.empty() && out.back() == ' ') continue;
+    out.push_back(put);
+  }
+  return out;
+}
+
+}  // namespace orrivane::text

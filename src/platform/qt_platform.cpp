@@ -1,0 +1,146 @@
+#include "platform/qt_platform.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QWidget>
+#include <cstdlib>
+
+#include "core/runtime_failure.h"
+
+namespace orrivane::platform {
+
+std::string Format_System_Date(int year, int month, int day) {
+  return std::to_string(month) + "/" + std::to_string(day) + "/" + std::to_string(year);
+}
+
+std::string Format_System_Time(int hour, int minute, int second) {
+  const int twelve = hour % 12 == 0 ? 12 : hour % 12;
+  auto two = [](int n) { return (n < 10 ? "0" : "") + std::to_string(n); };
+  return std::to_string(twelve) + ":" + two(minute) + ":" + two(second) + (hour < 12 ? " AM" : " PM");
+}
+
+std::string QtPlatform::System_Date() {
+  const QDate d = QDate::currentDate();
+  return Format_System_Date(d.year(), d.month(), d.day());
+}
+
+std::string QtPlatform::System_Time() {
+  const QTime t = QTime::currentTime();
+  return Format_System_Time(t.hour(), t.minute(), t.second());
+}
+
+namespace {
+
+QMessageBox::Icon To_Qt_Icon(int icon) {
+  switch (icon) {
+    case vbCritical: return QMessageBox::Critical;
+    case vbQuestion: return QMessageBox::Question;
+    case vbExclamation: return QMessageBox::Warning;
+    case vbInformation: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+  }
+}
+
+struct ButtonAnswer {
+  QMessageBox::StandardButton button;
+  int answer;
+};
+
+std::vector<ButtonAnswer> Buttons_Of(int buttons) {
+  switch (buttons) {
+    case vbOKCancel: return {{QMessageBox::Ok, vbOK}, {QMessageBox::Cancel, vbCancel}};
+    case vbYesNoCancel:
+      return {{QMessageBox::Yes, vbYes}, {QMessageBox::No, vbNo}, {QMessageBox::Cancel, vbCancel}};
+    case vbYesNo: return {{QMessageBox::Yes, vbYes}, {QMessageBox::No, vbNo}};
+    default: return {{QMessageBox::Ok, vbOK}};
+  }
+}
+
+// The printer to use: the default one, or a PDF file in the current folder when there is none.
+void Set_Up_Printer(QPrinter& printer) {
+  if (!QPrinterInfo::defaultPrinter().isNull()) return;
+  static int job = 0;
+  const QString name = QString("Orrivane-print-%1-%2.pdf")
+                           .arg(QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss"))
+                           .arg(++job);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QDir::current().filePath(name));
+}
+
+}  // namespace
+
+int QtPlatform::Message_Box(const std::string& text, int buttons, int icon, const std::string& title) {
+  QMessageBox box(To_Qt_Icon(icon), QString::fromStdString(title), QString::fromStdString(text),
+                  QMessageBox::NoButton, QApplication::activeWindow());
+  const auto set = Buttons_Of(buttons);
+  for (const auto& b : set) box.addButton(b.button);
+  box.setDefaultButton(set.front().button);
+  const auto pressed = static_cast<QMessageBox::StandardButton>(box.exec());
+  for (const auto& b : set) {
+    if (b.button == pressed) return b.answer;
+  }
+  // Closed by its frame: the way out of the box.
+  return set.size() == 1 ? vbOK : (buttons == vbYesNo ? vbNo : vbCancel);
+}
+
+void QtPlatform::Print_Window(QWidget& window) {
+  const QImage image = window.grab().toImage();
+  QPrinter printer(QPrinter::HighResolution);
+  Set_Up_Printer(printer);
+  QPainter painter(&printer);
+  const QRect page = painter.viewport();
+  QSize size = image.size();
+  size.scale(page.size(), Qt::KeepAspectRatio);
+  painter.drawImage(QRect(page.topLeft(), size), image);
+}
+
+void QtPlatform::Print_Text(const std::vector<TextPage>& pages) {
+  QPrinter printer(QPrinter::HighResolution);
+  Set_Up_Printer(printer);
+  QPainter painter(&printer);
+  const double dots_per_twip = printer.resolution() / 1440.0;
+  QFont font("Sans", 10);
+  painter.setFont(font);
+  for (std::size_t p = 0; p < pages.size(); ++p) {
+    if (p > 0) printer.newPage();
+    for (const PrintedText& item : pages[p]) {
+      const QPointF at(item.x_twips * dots_per_twip, item.y_twips * dots_per_twip);
+      painter.drawText(QRectF(at, QSizeF(printer.width(), printer.resolution())), Qt::AlignLeft | Qt::AlignTop,
+                       QString::fromStdString(item.text));
+    }
+  }
+}
+
+void QtPlatform::Beep() { QApplication::beep(); }
+
+void QtPlatform::Yield() { QCoreApplication::processEvents(); }
+
+void QtPlatform::End_Process(int exit_code) { std::exit(exit_code); }
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+  try {
+    try {
+      return QApplication::notify(receiver, event);
+    } catch (const RuntimeFailure& failure) {
+      Report_Unhandled_Failure(failure.number(), failure.description());
+    }
+  } catch (const ProcessEnded&) {
+    // A test's stand-in for the end of the process: nothing more runs of this event.
+  }
+  return true;
+}
+
+void Report_Unhandled_Failure(int number, const std::string& description) {
+  Platform& machine = Machine();
+  machine.Message_Box("Run-time error '" + std::to_string(number) + "':\n\n" + description, vbOKOnly, vbCritical,
+                      "Orrivane");
+  machine.End_Process(1);
+}
+
+}  // namespace orrivane::platform

@@ -1,0 +1,42 @@
+#pragma once
+// The real platform: the machine's clock, Qt message boxes, the default printer (or a PDF
+// file in the current folder when the machine has no printer), the system beep.
+#include <QApplication>
+
+#include "platform/platform.h"
+
+namespace orrivane::platform {
+
+// The clock's texts, whatever the machine's locale.
+std::string Format_System_Date(int year, int month, int day);
+std::string Format_System_Time(int hour, int minute, int second);
+
+class QtPlatform : public Platform {
+ public:
+  std::string System_Date() override;
+  std::string System_Time() override;
+  int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) override;
+  void Print_Window(QWidget& window) override;
+  void Print_Text(const std::vector<TextPage>& pages) override;
+  void Beep() override;
+  void Randomize(double seed) override { random_.Seed(seed); }
+  double Rnd() override { return random_.Next(); }
+  void Yield() override;
+  [[noreturn]] void End_Process(int exit_code) override;
+
+ private:
+  RandomSequence random_;
+};
+
+// The application object: its event dispatch is the one place where unhandled failures are
+// caught, told in a message box titled "Orrivane", and end the program.
+class Application : public QApplication {
+ public:
+  Application(int& argc, char** argv);
+  bool notify(QObject* receiver, QEvent* event) override;
+};
+
+// Tells an unhandled failure ("Run-time error '13':" and the description) and ends the process.
+void Report_Unhandled_Failure(int number, const std::string& description);
+
+}  // namespace orrivane::platform
