@@ -1,0 +1,47 @@
+#include "platform/controls.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QVariant>
+
+namespace orrivane::controls {
+
+QColor To_QColor(unsigned colour) {
+  const QPalette palette = QApplication::palette();
+  switch (colour) {
+    case kButtonFace: return palette.color(QPalette::Button);
+    case kGrayText: return palette.color(QPalette::Disabled, QPalette::WindowText);
+    case kButtonText: return palette.color(QPalette::ButtonText);
+    default: return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+  }
+}
+
+QString Array_Name(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
+
+void Set_Caption(QLabel* label, const std::string& caption) { label->setText(QString::fromStdString(caption)); }
+
+std::string Caption(const QLabel* label) { return label->text().toStdString(); }
+
+namespace {
+
+void Apply(QWidget* widget, QPalette::ColorRole role, const char* property, unsigned colour) {
+  widget->setProperty(property, QVariant::fromValue(colour));
+  QPalette palette = widget->palette();
+  palette.setColor(role, To_QColor(colour));
+  widget->setPalette(palette);
+  if (role == QPalette::Window) widget->setAutoFillBackground(true);
+}
+
+unsigned Read(const QWidget* widget, const char* property, unsigned fallback) {
+  const QVariant v = widget->property(property);
+  return v.isValid() ? v.value<unsigned>() : fallback;
+}
+
+}  // namespace
+
+void Set_Fore_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::WindowText, "ForeColor", colour); }
+void Set_Back_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::Window, "BackColor", colour); }
+unsigned Fore_Color(const QWidget* widget) { return Read(widget, "ForeColor", kButtonText); }
+unsigned Back_Color(const QWidget* widget) { return Read(widget, "BackColor", kButtonFace); }
+
+}  // namespace orrivane::controls

@@ -1,0 +1,35 @@
+#pragma once
+// Small helpers shared by the windows: the program's colour numbers, twips, control names.
+#include <QColor>
+#include <QLabel>
+#include <QString>
+#include <string>
+
+namespace orrivane::controls {
+
+// The program's colour numbers: 0xBBGGRR, or a system colour.
+constexpr unsigned kButtonFace = 0x8000000F;
+constexpr unsigned kGrayText = 0x80000011;
+constexpr unsigned kButtonText = 0x80000012;
+constexpr unsigned kRed = 255;
+
+// The colour a program colour number stands for, system colours through the palette.
+QColor To_QColor(unsigned colour);
+
+// Twips (15 to a pixel) to pixels.
+constexpr int Px(int twips) { return twips / 15; }
+
+// The name of an element of a control array: "lblCalDate(5)".
+QString Array_Name(const char* name, int index);
+
+// A label's caption and colours as the program reads and writes them. The program colour of
+// a label is kept in a property so that a test (and the program) reads back exactly the number
+// that was written, system colours included.
+void Set_Caption(QLabel* label, const std::string& caption);
+std::string Caption(const QLabel* label);
+void Set_Fore_Color(QWidget* widget, unsigned colour);
+void Set_Back_Color(QWidget* widget, unsigned colour);
+unsigned Fore_Color(const QWidget* widget);
+unsigned Back_Color(const QWidget* widget);
+
+}  // namespace orrivane::controls
