@@ -1,5 +1,6 @@
 #include "core/value.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -13,6 +14,38 @@ namespace {
 
 bool Is_Blank(char c) { return c == ' ' || c == '\t'; }
 bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
+
+// The exponent of a well-formed decimal number, held within a range that still decides
+// between overflow and underflow however many digits the text has.
+long long Clamped_Exponent(std::string_view number) {
+  const std::size_t e = number.find_first_of("eE");
+  if (e == std::string_view::npos) return 0;
+  std::size_t i = e + 1;
+  const bool negative = i < number.size() && number[i] == '-';
+  if (i < number.size() && (number[i] == '-' || number[i] == '+')) ++i;
+  constexpr long long kLimit = 1'000'000'000;
+  long long exponent = 0;
+  for (; i < number.size(); ++i) exponent = std::min(kLimit, exponent * 10 + (number[i] - '0'));
+  return negative ? -exponent : exponent;
+}
+
+// The power of ten of the first significant digit of a well-formed decimal number that has one.
+long long Leading_Power_Of_Ten(std::string_view number) {
+  const std::string_view mantissa = number.substr(0, number.find_first_of("eE"));
+  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+  const std::size_t first = mantissa.find_first_of("123456789");
+  if (first == std::string_view::npos) return -1;  // all zeros: nothing that could overflow
+  const long long place = first < point ? static_cast<long long>(point - first) - 1
+                                        : -static_cast<long long>(first - point);
+  return place + Clamped_Exponent(number);
+}
+
+// from_chars says "out of range" both for a number too large and for one too small to hold;
+// only the first is an overflow, the second is as good as 0.
+double Out_Of_Range(std::string_view number) {
+  if (Leading_Power_Of_Ten(number) > 0) throw RuntimeFailure(kOverflow);
+  return 0;
+}
 
 }  // namespace
 
@@ -44,7 +77,7 @@ std::optional<double> Parse_Number(std::string_view text) {
   if (!number.empty() && number.front() == '+') number.remove_prefix(1);
   double value = 0;
   const auto [ptr, ec] = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (ec == std::errc::result_out_of_range) throw RuntimeFailure(kOverflow);
+  if (ec == std::errc::result_out_of_range) return Out_Of_Range(number);
   if (ec != std::errc() || ptr != number.data() + number.size()) return std::nullopt;
   return value;
 }
