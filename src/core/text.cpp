@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "core/runtime_failure.h"
+#include "core/value.h"
 
 namespace orrivane::text {
 
@@ -45,12 +46,13 @@ std::string Mid(std::string_view s, long long start, long long length) {
 
 long long InStr(std::string_view s, std::string_view find, long long start) {
   Require_Start(start);
-  if (start > Len(s) + 1) return 0;
+  if (s.empty() || start > Len(s) + 1) return 0;
   const auto at = s.find(find, static_cast<std::size_t>(start - 1));
   return at == std::string_view::npos ? 0 : static_cast<long long>(at) + 1;
 }
 
 long long InStrRev(std::string_view s, std::string_view find) {
+  if (s.empty()) return 0;
   const auto at = s.rfind(find);
   return at == std::string_view::npos ? 0 : static_cast<long long>(at) + 1;
 }
@@ -83,24 +85,51 @@ std::string LCase(std::string_view s) {
   return out;
 }
 
-double Val(std::string_view s) {
-  std::size_t i = 0;
-  while (i < s.size() && (s[i] == ' ' || s[i] == '\t')) ++i;
-  double sign = 1;
-  if (i < s.size() && (s[i] == '-' || s[i] == '+')) sign = s[i++] == '-' ? -1 : 1;
-  double value = 0;
-  while (i < s.size() && std::isdigit(static_cast<unsigned char>(s[i]))) value = value * 10 + (s[i++] - '0');
-  if (i < s.size() && s[i] == '.') {
-    double scale = 0.1;
-    for (++i; i < s.size() && std::isdigit(static_cast<unsigned char>(s[i])); ++i, scale /= 10) {
-      value += (s[i] - '0') * scale;
-    }
+namespace {
+
+// Blanks, tabs and line feeds are no part of a number for Val, wherever they stand.
+bool Is_Ignored_By_Val(char c) { return c == ' ' || c == '\t' || c == '\n'; }
+bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
+
+std::size_t Skip_Digits(std::string_view s, std::size_t i) {
+  while (i < s.size() && Is_Digit(s[i])) ++i;
+  return i;
+}
+
+std::size_t Skip_Sign(std::string_view s, std::size_t i) {
+  return i < s.size() && (s[i] == '+' || s[i] == '-') ? i + 1 : i;
+}
+
+// The longest head of `s` shaped as a number: sign, digits, point, digits, exponent.
+std::string_view Number_Head(std::string_view s) {
+  const std::size_t sign_end = Skip_Sign(s, 0);
+  std::size_t i = Skip_Digits(s, sign_end);
+  const bool has_point = i < s.size() && s[i] == '.';
+  if (has_point) i = Skip_Digits(s, i + 1);
+  if (i - sign_end == static_cast<std::size_t>(has_point)) return {};  // no digit at all
+  if (i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
+    const std::size_t exponent_start = Skip_Sign(s, i + 1);
+    const std::size_t exponent_end = Skip_Digits(s, exponent_start);
+    if (exponent_end > exponent_start) i = exponent_end;
   }
-  return sign * value;
+  return s.substr(0, i);
+}
+
+}  // namespace
+
+double Val(std::string_view s) {
+  std::string compact;
+  for (char c : s) {
+    if (!Is_Ignored_By_Val(c)) compact.push_back(c);
+  }
+  return Parse_Number(Number_Head(compact)).value_or(0);
 }
 
 std::string Pad_Zero(long long number, int width) {
-  std::string digits = std::to_string(number < 0 ? -number : number);
+  // Negating the smallest long long would overflow; its magnitude fits an unsigned one.
+  const unsigned long long magnitude =
+      number < 0 ? 0ULL - static_cast<unsigned long long>(number) : static_cast<unsigned long long>(number);
+  std::string digits = std::to_string(magnitude);
   if (static_cast<int>(digits.size()) < width) digits.insert(0, width - digits.size(), '0');
   return number < 0 ? "-" + digits : digits;
 }

@@ -15,7 +15,8 @@ std::string Right(std::string_view s, long long length);
 // and omitted.
 std::string Mid(std::string_view s, long long start);
 std::string Mid(std::string_view s, long long start, long long length);
-// Position of the first occurrence of `find` at or after `start`, else 0.
+// Position of the first occurrence of `find` at or after `start`, else 0 (always 0 in an
+// empty text).
 long long InStr(std::string_view s, std::string_view find, long long start = 1);
 // Position of the last occurrence of `find`, else 0.
 long long InStrRev(std::string_view s, std::string_view find);
@@ -27,7 +28,9 @@ std::string RTrim(std::string_view s);
 std::string UCase(std::string_view s);
 std::string LCase(std::string_view s);
 
-// The number at the head of a text, as far as it goes (blanks skipped), 0 when there is none.
+// The number at the head of a text, as far as it goes, 0 when there is none. Blanks, tabs and
+// line feeds are ignored wherever they stand (" 1 2 3" is 123); a number too large to hold is
+// the failure 6 (Overflow).
 double Val(std::string_view s);
 
 // A whole number as text with at least `width` digits, zeros in front ("05").
