@@ -1,6 +1,7 @@
 #include "core/sequential_file.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <iterator>
 #include <sstream>
 
@@ -39,7 +40,18 @@ void SequentialWriter::Write_Line(const std::vector<Value>& values) {
 
 void SequentialWriter::Close() { out_.close(); }
 
+namespace {
+
+// A directory opens as a stream on some systems and then reads as nothing; it is no file.
+bool Is_Directory(const std::string& path) {
+  std::error_code ignored;
+  return std::filesystem::is_directory(path, ignored);
+}
+
+}  // namespace
+
 SequentialReader::SequentialReader(const std::string& path) {
+  if (Is_Directory(path)) throw RuntimeFailure(kPathFileAccessError);
   std::ifstream in(path, std::ios::binary);
   if (!in) throw RuntimeFailure(kFileNotFound);
   data_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
@@ -96,6 +108,7 @@ Value SequentialReader::Input() {
 }
 
 bool File_Exists(const std::string& path) {
+  if (Is_Directory(path)) return false;
   std::ifstream in(path, std::ios::binary);
   return static_cast<bool>(in);
 }

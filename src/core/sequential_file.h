@@ -33,7 +33,8 @@ class SequentialWriter {
 
 class SequentialReader {
  public:
-  // Opens for reading; a file that doesn't exist is the failure 53 (file not found).
+  // Opens for reading; a file that doesn't exist is the failure 53 (file not found), a
+  // directory the failure 75 (path/file access).
   explicit SequentialReader(const std::string& path);
   // Reads from a text held in memory (for tests and for reading what is already loaded).
   static SequentialReader From_Text(std::string content);
@@ -51,7 +52,7 @@ class SequentialReader {
   std::size_t pos_ = 0;
 };
 
-// True when a file exists and can be opened for reading.
+// True when a file exists and can be opened for reading; a directory is no such file.
 bool File_Exists(const std::string& path);
 // Opens the file for output and closes it: the file is left empty.
 void Empty_File(const std::string& path);
