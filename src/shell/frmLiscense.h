@@ -1,0 +1,59 @@
+#pragma once
+// The licence window: the GNU General Public License, version 2, drawn straight onto the window
+// sixteen rows at a time, moved by the buttons through Scroll.
+#include <QPushButton>
+#include <QWidget>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+#include "shell/licence_text.h"
+
+namespace orrivane {
+
+class frmLiscense : public QWidget {
+  Q_OBJECT
+ public:
+  frmLiscense();
+
+  // Moves the view by a verb: "up", "down", "pageup", "pagedown", "reset" (the top), "end" (the
+  // last sixteen rows) or "refresh" (stay), and prints the rows. Passing an end beeps and lands
+  // on it; any other verb stays too.
+  void Scroll(const std::string& Direction);
+  // Row DataLine of the licence, 1 to 345; the empty text for any other number.
+  std::string DataSource(int DataLine) const;
+  // The window became active: back to the top.
+  void Form_Activate();
+
+  // The first row of the view; 0 is the top, whose first row is the empty cell above row 1.
+  int Position() const { return Position_; }
+  // What Scroll printed last: left edge and top in twips, and the text.
+  const std::vector<platform::PrintedText>& Printed_Rows() const { return Printed_; }
+
+  QPushButton* CmdUP;
+  QPushButton* CmdDown;
+  QPushButton* CmdPageUp;
+  QPushButton* CmdPageDown;
+  QPushButton* CmdHome;
+  QPushButton* CmdEnd;
+  QPushButton* cmdClose;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  void Fill_Rows();
+  void Print_Rows();
+  void cmdClose_Click();
+
+  std::array<std::string, shell::kLicenceRows + 1> Rows_;  // cell 0 stays empty
+  int Position_ = 0;
+  std::vector<platform::PrintedText> Printed_;
+  bool Painting_ = false;      // a Scroll from the paint event draws itself; no new paint
+  bool Deactivated_ = false;   // set when the window loses the focus while shown
+};
+
+}  // namespace orrivane
