@@ -1,0 +1,205 @@
+#include "shell/frmAbout.h"
+
+#include <QPainter>
+#include <QShowEvent>
+#include <iterator>
+#include <string_view>
+
+#include "platform/controls.h"
+#include "platform/window_registry.h"
+#include "shell/frmLiscense.h"
+
+namespace orrivane {
+
+namespace {
+
+// The notice, one row a line; rows 13, 22, 28 and 29 are empty.
+constexpr std::string_view kNotice[] = {
+    "Orrivane 3.0, a calendar and organizer",
+    "Copyright (C) the Orrivane developers",
+    "This program is free software: you can",
+    "redistribute it and/or modify it under the",
+    "terms of the GNU General Public License,",
+    "version 2 of the License, or (at your option)",
+    "any later version.",
+    "This program is distributed in the hope that",
+    "it will be useful, but WITHOUT ANY WARRANTY;",
+    "without even the implied warranty of",
+    "MERCHANTABILITY or FITNESS FOR A PARTICULAR",
+    "PURPOSE.",
+    "",
+    "See the GNU General Public License for more",
+    "details. A copy of the License comes with",
+    "this program: press the button for the GPL",
+    "below to read it.",
+    "Orrivane shows the months of the Gregorian",
+    "calendar from October 1582 and of the Julian",
+    "calendar from 1 B.C., finds holidays, and",
+    "keeps a log of tasks and their reminders.",
+    "",
+    "Up, Down, Page Up and Page Down move this",
+    "notice a row or four rows at a time, and",
+    "Close puts it away. The calendar and the",
+    "reminders go on while this window is",
+    "closed.",
+    "",
+    "",
+};
+static_assert(std::size(kNotice) == frmAbout::kNoticeRows);
+
+constexpr int kRowsShown = 5;
+constexpr int kLastPosition = frmAbout::kNoticeRows - kRowsShown + 1;  // 25: rows 25 to 29
+constexpr int kPageStep = 4;
+constexpr int kLeftEdge = 415;  // twips
+constexpr int kTop = 4380;  // twips; row i of the view at 4380 + 220 × i
+constexpr int kRowHeight = 220;  // twips
+
+// The steps of the verbs that move; "reset" sets the position.
+struct Move {
+  std::string_view direction;
+  int step;
+};
+constexpr Move kMoves[] = {{"up", -1}, {"down", 1}, {"pageup", -kPageStep}, {"pagedown", kPageStep}};
+
+struct ButtonPlace {
+  const char* name;
+  const char* caption;
+  int x, y, width;  // pixels, below the rows
+};
+constexpr ButtonPlace kButtons[] = {
+    {"CmdUP", "Up", 27, 392, 80},
+    {"CmdDown", "Down", 111, 392, 80},
+    {"CmdPageUp", "Page Up", 195, 392, 100},
+    {"CmdPageDown", "Page Down", 299, 392, 110},
+    {"CmdViewGPLLiscense", "View GPL Liscense ", 27, 428, 164},
+    {"cmdClose", "Close", 299, 428, 110},
+};
+constexpr int kButtonHeight = 30;
+
+// The picture above the notice: a month page, with the first of the month marked.
+void Draw_Emblem(QPainter& painter, const QRect& page) {
+  constexpr int kDays = 7;
+  constexpr int kWeeks = 5;
+  painter.setPen(QColor(0x60, 0x60, 0x60));
+  painter.setBrush(Qt::white);
+  painter.drawRect(page);
+  const QRect band(page.left() + 1, page.top() + 1, page.width() - 1, page.height() / 4);
+  painter.fillRect(band, QColor(0x2E, 0x4A, 0x86));
+  const int cell_width = page.width() / kDays;
+  const int cell_height = (page.height() - band.height()) / kWeeks;
+  for (int week = 0; week < kWeeks; ++week) {
+    for (int day = 0; day < kDays; ++day) {
+      const QRect cell(page.left() + day * cell_width + 3, band.bottom() + week * cell_height + 3, cell_width - 6,
+                       cell_height - 6);
+      painter.fillRect(cell, week == 0 && day == 3 ? QColor(0xC0, 0x30, 0x30) : QColor(0xDD, 0xDD, 0xDD));
+    }
+  }
+}
+
+QFont Sized(int pixels, bool bold) {
+  QFont font;
+  font.setPixelSize(pixels);
+  font.setBold(bold);
+  return font;
+}
+
+}  // namespace
+
+frmAbout::frmAbout() {
+  setObjectName("frmAbout");
+  setWindowTitle("About Orrivane");
+  resize(436, 474);
+  setMinimumSize(436, 474);
+  setAutoFillBackground(true);
+
+  QPushButton** members[] = {&CmdUP, &CmdDown, &CmdPageUp, &CmdPageDown, &CmdViewGPLLiscense, &cmdClose};
+  for (std::size_t i = 0; i < std::size(kButtons); ++i) {
+    const ButtonPlace& place = kButtons[i];
+    auto* button = new QPushButton(place.caption, this);
+    button->setObjectName(place.name);
+    button->setGeometry(place.x, place.y, place.width, kButtonHeight);
+    *members[i] = button;
+  }
+  connect(CmdUP, &QPushButton::clicked, this, [this] { CopyFair("up"); });
+  connect(CmdDown, &QPushButton::clicked, this, [this] { CopyFair("down"); });
+  connect(CmdPageUp, &QPushButton::clicked, this, [this] { CopyFair("pageup"); });
+  connect(CmdPageDown, &QPushButton::clicked, this, [this] { CopyFair("pagedown"); });
+  connect(CmdViewGPLLiscense, &QPushButton::clicked, this, [this] { CmdViewGPLLiscense_Click(); });
+  connect(cmdClose, &QPushButton::clicked, this, &QWidget::hide);
+}
+
+std::string frmAbout::DataSource(int DataLine) const {
+  if (DataLine < 1 || DataLine > kNoticeRows) return {};
+  return std::string(kNotice[static_cast<std::size_t>(DataLine - 1)]);
+}
+
+void frmAbout::CopyFair(const std::string& Direction) {
+  for (int row = 1; row <= kNoticeRows; ++row) Rows_[static_cast<std::size_t>(row)] = DataSource(row);
+  Printed_.clear();
+  if (Direction == "reset") Position_ = 1;
+  for (const Move& move : kMoves) {
+    if (Direction != move.direction) continue;
+    // A step is taken only from inside the stops; one that passes an end lands on it below.
+    const bool room = move.step < 0 ? Position_ > 0 : Position_ < kLastPosition + 1;
+    if (room) Position_ += move.step;
+  }
+  if (Position_ <= 0) {
+    Position_ = 1;
+    platform::Machine().Beep();
+  }
+  if (Position_ >= kLastPosition + 1) {
+    Position_ = kLastPosition;
+    platform::Machine().Beep();
+  }
+  for (int i = 1; i <= kRowsShown; ++i) {
+    Printed_.push_back({kLeftEdge, kTop + kRowHeight * i, Rows_[static_cast<std::size_t>(Position_ - 1 + i)]});
+  }
+  update();
+}
+
+void frmAbout::Form_Activate() { CopyFair("reset"); }
+
+void frmAbout::CmdViewGPLLiscense_Click() {
+  frmLiscense& licence = Window<frmLiscense>();
+  licence.show();
+  licence.raise();
+  licence.activateWindow();
+}
+
+void frmAbout::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  Draw_Emblem(painter, QRect(width() / 2 - 80, 28, 160, 128));
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.setFont(Sized(26, true));
+  painter.drawText(QRect(0, 172, width(), 36), Qt::AlignHCenter | Qt::AlignVCenter, "Orrivane 3.0");
+  painter.setFont(Sized(15, false));
+  painter.drawText(QRect(0, 212, width(), 24), Qt::AlignHCenter | Qt::AlignVCenter, "Calendar and Organizer");
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawLine(27, 280, width() - 27, 280);
+
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.setFont(Sized(12, false));
+  const int ascent = painter.fontMetrics().ascent();
+  for (const platform::PrintedText& row : Printed_) {
+    painter.drawText(controls::Px(row.x_twips), controls::Px(row.y_twips) + ascent, QString::fromStdString(row.text));
+  }
+}
+
+void frmAbout::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  Deactivated_ = false;
+  Form_Activate();
+}
+
+bool frmAbout::event(QEvent* event) {
+  // Coming back to the window after another had the focus is an activation too; the first
+  // activation after showing was already handled by the show.
+  if (event->type() == QEvent::WindowDeactivate) Deactivated_ = true;
+  if (event->type() == QEvent::WindowActivate && Deactivated_) {
+    Deactivated_ = false;
+    Form_Activate();
+  }
+  return QWidget::event(event);
+}
+
+}  // namespace orrivane

@@ -1,0 +1,55 @@
+#pragma once
+// The About window: a short notice of the program and its license, drawn straight onto the
+// window five rows at a time, moved by the buttons through CopyFair.
+#include <QPushButton>
+#include <QWidget>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace orrivane {
+
+class frmAbout : public QWidget {
+  Q_OBJECT
+ public:
+  static constexpr int kNoticeRows = 29;
+
+  frmAbout();
+
+  // Moves the view by a verb: "up", "down", "pageup", "pagedown" or "reset" (the top), and
+  // prints the rows. Passing an end beeps and lands on it.
+  void CopyFair(const std::string& Direction);
+  // Row DataLine of the notice, 1 to 29; the empty text for any other number.
+  std::string DataSource(int DataLine) const;
+  // The window became active: back to the top.
+  void Form_Activate();
+
+  // The first row of the view, 1 to 25 (0 before the first move).
+  int Position() const { return Position_; }
+  // What CopyFair printed last: left edge and top in twips, and the text.
+  const std::vector<platform::PrintedText>& Printed_Rows() const { return Printed_; }
+
+  QPushButton* CmdUP;
+  QPushButton* CmdDown;
+  QPushButton* CmdPageUp;
+  QPushButton* CmdPageDown;
+  QPushButton* CmdViewGPLLiscense;
+  QPushButton* cmdClose;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  void CmdViewGPLLiscense_Click();
+
+  std::array<std::string, kNoticeRows + 1> Rows_;  // cell 0 is not used
+  int Position_ = 0;
+  std::vector<platform::PrintedText> Printed_;
+  bool Deactivated_ = false;  // set when the window loses the focus while shown
+};
+
+}  // namespace orrivane
