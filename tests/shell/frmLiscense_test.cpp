@@ -272,5 +272,16 @@ TEST_F(frmLiscenseTest, TheButtonsStayClearOfTheRowsAndTheRowsFitTheWindow) {
   EXPECT_GE(Licence().height(), controls::Px(220 * 21) + 15);
 }
 
+TEST_F(frmLiscenseTest, EveryRowFitsTheWidthOfTheWindow) {
+  Licence().show();
+  const int width = Licence().width();
+  for (int page = 0; page < 22; ++page) {
+    const QImage image = Licence().grab().toImage();
+    const QRect margin(width - 12, controls::Px(220 * 6), 12, controls::Px(220 * 16));
+    EXPECT_EQ(Ink(image, margin), 0) << "view from row " << Licence().Position();
+    for (int i = 0; i < 16; ++i) Licence().Scroll("down");
+  }
+}
+
 }  // namespace
 }  // namespace orrivane
