@@ -6,7 +6,7 @@
 namespace orrivane {
 
 std::string Failure_Description(int number) {
-  static constexpr std::array<std::pair<int, const char*>, 13> kDescriptions{{
+  static constexpr std::array<std::pair<int, const char*>, 14> kDescriptions{{
       {kInvalidProcedureCall, "Invalid procedure call or argument"},
       {kOverflow, "Overflow"},
       {kSubscriptOutOfRange, "Subscript out of range"},
@@ -14,6 +14,7 @@ std::string Failure_Description(int number) {
       {kTypeMismatch, "Type mismatch"},
       {kBadFileNameOrNumber, "Bad file name or number"},
       {kFileNotFound, "File not found"},
+      {kBadFileMode, "Bad file mode"},
       {kFileAlreadyOpen, "File already open"},
       {kDeviceIOError, "Device I/O error"},
       {kInputPastEndOfFile, "Input past end of file"},

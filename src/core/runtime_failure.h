@@ -15,6 +15,7 @@ enum FailureNumber : int {
   kTypeMismatch = 13,
   kBadFileNameOrNumber = 52,
   kFileNotFound = 53,
+  kBadFileMode = 54,
   kFileAlreadyOpen = 55,
   kDeviceIOError = 57,
   kInputPastEndOfFile = 62,
