@@ -1,0 +1,99 @@
+#pragma once
+// The record of the Organizer's log and the files that hold it.
+//
+// A log is a flat file of 28-value records, task records and person marker records mixed, in
+// order of entry, with no header, count or trailer: an empty log is an empty file. A record is
+// written in 8 lines of 1, 4, 5, 1, 6, 2, 5 and 4 values; a person marker record as first
+// written stands in 28 lines of one value. The reader takes the next value wherever a line
+// ends, so both arrangements read the same.
+#include <array>
+#include <optional>
+#include <string>
+
+#include "core/sequential_file.h"
+#include "core/value.h"
+
+namespace orrivane::organizer {
+
+// The working files of the log, in the current folder.
+inline constexpr const char* kScheduleFile = "Schedule.tmp";          // the live log
+inline constexpr const char* kScheduleScratchFile = "Schedule1.tmp";  // scratch of a rewrite
+inline constexpr const char* kTaskReminderFile = "TRemin.tmp";        // the records with reminders on
+inline constexpr const char* kTaskReminderScratchFile = "TRemin1.tmp";
+
+// One task, or a person marker record: Record_Number -1, the member's name in Person_Name and
+// -1 in every other field. Fields are loosely typed, as they stand in the file: "05" stays a
+// text, 20 a number. Declared in the order of the file except for the reminder dates and
+// times, which the file interleaves: Date_String[0], Time_String[0], Date_String[1],
+// Time_String[1].
+struct ScheduleRecord {
+  Value Record_Number;
+  Value Task_Name;
+  Value Task_Description;
+  Value Task_Comments;
+  Value Start_Month;
+  Value Start_Date;
+  Value Start_Century;
+  Value Start_Year;
+  Value Start_Hour;
+  Value Start_Minute;
+  Value Time_Range_Flag;
+  Value Finish_Month;
+  Value Finish_Date;
+  Value Finish_Century;
+  Value Finish_Year;
+  Value Finish_Hour;
+  Value Finish_Minute;
+  Value Color_Code;
+  Value Person_Name;
+  Value Reminder_Status;
+  Value Date_String[2];
+  Value Time_String[2];
+  Value Reminder_Interval;
+  Value Interval_Days;
+  Value Interval_Hours;
+  Value Interval_Minutes;
+};
+
+inline constexpr std::size_t kScheduleRecordFields = 28;
+
+// The 28 fields in the order the file holds them.
+std::array<Value*, kScheduleRecordFields> Fields_In_File_Order(ScheduleRecord& record);
+std::array<const Value*, kScheduleRecordFields> Fields_In_File_Order(const ScheduleRecord& record);
+
+// The record's reader: "Input" reads the next 28 values of the file into the record, wherever
+// the lines end; reading past the end is the failure 62, and the fields read before it stay.
+// "Write" asked of a file open for reading is the failure 54 (Bad file mode); any other verb
+// does nothing.
+void Schedule_File(const std::string& Action_To_Perform, SequentialReader& file, ScheduleRecord& record);
+
+// The record's writer: "Write" writes the record in the 8-line arrangement. "Input" asked of
+// a file open for writing is the failure 54 (Bad file mode); any other verb does nothing.
+void Schedule_File(const std::string& Action_To_Perform, SequentialWriter& file, const ScheduleRecord& record);
+
+// Record_Number -1 tells a person marker record; anything else is a task.
+bool Is_Person_Marker(const ScheduleRecord& record);
+
+// The marker record of a group member: -1 everywhere but the name.
+ScheduleRecord Make_Person_Marker(const Value& Person_Name);
+
+// A marker record as first written: 18 lines "-1", the quoted name, 9 lines "-1".
+void Write_Person_Marker_28_Lines(SequentialWriter& file, const Value& Person_Name);
+
+// Appends a marker record, as first written, to the log at `path` (creating it if need be).
+// Whether the member is already in the log is the caller's concern.
+void Generate_Person_Marker_Record(const std::string& path, const Value& Person_Name);
+
+// The number for a new task: one more than the highest Record_Number of the log at `path`,
+// 1 for a log without tasks. Marker records (-1) never count, numbers are never compacted, so
+// the number of a deleted last task is given out again and that of an earlier one is not.
+Value Generate_Record_Number(const std::string& path);
+
+// Copies a log record by record, which writes every marker record in the 8-line arrangement:
+// every record to `to`, and those with Reminder_Status 1 to `reminders_to` as well when it is
+// given (a marker's Reminder_Status is -1, so markers never go there). `to` and `reminders_to`
+// are replaced. A truncated record is the failure 62, and what was copied before it stays.
+void Copy_Log(const std::string& from, const std::string& to,
+              const std::optional<std::string>& reminders_to = std::nullopt);
+
+}  // namespace orrivane::organizer
