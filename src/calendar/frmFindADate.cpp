@@ -1,0 +1,191 @@
+#include "calendar/frmFindADate.h"
+
+#include <string>
+
+#include "calendar/Form1.h"
+#include "core/value.h"
+#include "engine/calendar_engine.h"
+#include "platform/controls.h"
+#include "platform/window_registry.h"
+
+namespace orrivane {
+
+namespace {
+
+constexpr char kOutputDay[] = "frmFindADate.OutputDay()";
+constexpr char kOutputDayOnForm1[] = "frmFindADate.OutputDay_On_Form1()";
+constexpr char kConvertAboveDate[] = "frmFindADate.cmdConvertAboveDate__Click()";
+
+QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
+  auto* label = new QLabel(caption, parent);
+  label->setObjectName(name);
+  return label;
+}
+
+QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  return button;
+}
+
+QComboBox* Make_Combo(QWidget* parent, const char* name, bool editable) {
+  auto* combo = new QComboBox(parent);
+  combo->setObjectName(name);
+  combo->setEditable(editable);
+  // An entry typed into an editable box is read as it stands, never added to the list.
+  combo->setInsertPolicy(QComboBox::NoInsert);
+  return combo;
+}
+
+// "00" to "99", or "01" to "31".
+void Add_Two_Digit_Numbers(QComboBox* combo, int first, int last) {
+  for (int n = first; n <= last; ++n) combo->addItem(QString("%1").arg(n, 2, 10, QChar('0')));
+}
+
+std::string Text_Of(const QComboBox* combo) { return combo->currentText().toStdString(); }
+
+}  // namespace
+
+frmFindADate::frmFindADate() {
+  setObjectName("frmFindADate");
+  setWindowTitle("Find The Weekday Of A Date");
+  Build_Entries();
+  Build_Answer();
+  Place_Controls();
+  Connect_Controls();
+}
+
+void frmFindADate::Build_Entries() {
+  lblSelectCalendarStyle = Make_Label(this, "lblSelectCalendarStyle", "Select Calendar Style:");
+  ComboCalendar = Make_Combo(this, "ComboCalendar", true);
+  ComboCalendar->addItems({"Gregorian (New Style)", "Julian (Old Style)"});
+  ComboCalendar->setCurrentIndex(0);
+
+  lblSelectMonthDate = Make_Label(this, "lblSelectMonthDate", "Select Month\\Date:");
+  ComboMonths = Make_Combo(this, "ComboMonths", false);
+  for (int month = 1; month <= 12; ++month) {
+    ComboMonths->addItem(QString::fromStdString(engine::Define_Month(month, "Get Month Name").text()));
+  }
+  ComboMonths->setMaxVisibleItems(12);
+  ComboDate = Make_Combo(this, "ComboDate", false);
+  Add_Two_Digit_Numbers(ComboDate, 1, 31);
+
+  lblChooseCentury = Make_Label(this, "lblChooseCentury", "Choose Century:");
+  ComboCentury = Make_Combo(this, "ComboCentury", true);
+  Add_Two_Digit_Numbers(ComboCentury, 0, 99);
+  ComboCentury->setCurrentIndex(0);
+
+  lblChooseYear = Make_Label(this, "lblChooseYear", "Choose Year:");
+  ComboYear = Make_Combo(this, "ComboYear", false);
+  Add_Two_Digit_Numbers(ComboYear, 0, 99);
+
+  // The list-only boxes start with nothing chosen.
+  for (QComboBox* empty : {ComboMonths, ComboDate, ComboYear}) empty->setCurrentIndex(-1);
+
+  cmdENTER = Make_Button(this, "cmdENTER", "ENTER");
+  cmdENTER->setDefault(true);
+}
+
+void frmFindADate::Build_Answer() {
+  lblDisplayDay = Make_Label(this, "lblDisplayDay", "This date occured on a:");
+  txtShowWeekday = new QLineEdit("N\\A", this);
+  txtShowWeekday->setObjectName("txtShowWeekday");
+  txtShowWeekday->setReadOnly(true);
+  lblDate = Make_Label(this, "lblDate", "Date:");
+  lblShowDate = Make_Label(this, "lblShowDate");
+  lblCalendarName = Make_Label(this, "lblCalendarName", "Calendar:");
+  lblShowCalendarName = Make_Label(this, "lblShowCalendarName");
+
+  cmdConvertAboveDate_ = Make_Button(this, "cmdConvertAboveDate_", "Convert Above Date");
+  cmdDisplayAboveDateOnCalendar = Make_Button(this, "cmdDisplayAboveDateOnCalendar", "Display Above Date On Calendar");
+  cmdCloseThisWindow = Make_Button(this, "cmdCloseThisWindow", "Close This Window");
+  // Nothing to convert or display before a date was accepted.
+  cmdConvertAboveDate_->setEnabled(false);
+  cmdDisplayAboveDateOnCalendar->setEnabled(false);
+}
+
+void frmFindADate::Place_Controls() {
+  // The entries with their labels right-aligned against them, the ENTER button beside the
+  // century and year, the answer below in the same two columns, the three buttons at the foot.
+  constexpr int kMargin = 12, kLabelWidth = 150, kEntryX = kMargin + kLabelWidth + 8, kRowHeight = 26;
+  constexpr int kRight = kEntryX + 196;  // right edge of the entries and of the buttons
+  for (QLabel* label : {lblSelectCalendarStyle, lblSelectMonthDate, lblChooseCentury, lblChooseYear, lblDisplayDay,
+                        lblDate, lblCalendarName}) {
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  lblSelectCalendarStyle->setGeometry(kMargin, 14, kLabelWidth, kRowHeight);
+  ComboCalendar->setGeometry(kEntryX, 14, kRight - kEntryX, kRowHeight);
+  lblSelectMonthDate->setGeometry(kMargin, 48, kLabelWidth, kRowHeight);
+  ComboMonths->setGeometry(kEntryX, 48, 124, kRowHeight);
+  ComboDate->setGeometry(kEntryX + 130, 48, kRight - kEntryX - 130, kRowHeight);
+  lblChooseCentury->setGeometry(kMargin, 82, kLabelWidth, kRowHeight);
+  ComboCentury->setGeometry(kEntryX, 82, 80, kRowHeight);
+  lblChooseYear->setGeometry(kMargin, 116, kLabelWidth, kRowHeight);
+  ComboYear->setGeometry(kEntryX, 116, 80, kRowHeight);
+  cmdENTER->setGeometry(kEntryX + 96, 82, kRight - kEntryX - 96, 60);
+
+  lblDisplayDay->setGeometry(kMargin, 160, kLabelWidth + 30, kRowHeight);
+  txtShowWeekday->setGeometry(kEntryX + 30, 160, kRight - kEntryX - 30, kRowHeight);
+  lblDate->setGeometry(kMargin, 192, kLabelWidth + 30, kRowHeight);
+  lblShowDate->setGeometry(kEntryX + 30, 192, kRight - kEntryX - 30, kRowHeight);
+  lblCalendarName->setGeometry(kMargin, 220, kLabelWidth + 30, kRowHeight);
+  lblShowCalendarName->setGeometry(kEntryX + 30, 220, kRight - kEntryX - 30, kRowHeight);
+
+  int y = 258;
+  for (QPushButton* button : {cmdConvertAboveDate_, cmdDisplayAboveDateOnCalendar, cmdCloseThisWindow}) {
+    button->setGeometry(kMargin, y, kRight - kMargin, 30);
+    y += 36;
+  }
+  setFixedSize(kRight + kMargin, y + 6);
+}
+
+void frmFindADate::Connect_Controls() {
+  connect(cmdENTER, &QPushButton::clicked, this, [this] { OutputDay(); });
+  connect(cmdConvertAboveDate_, &QPushButton::clicked, this, [this] { cmdConvertAboveDate__Click(); });
+  connect(cmdDisplayAboveDateOnCalendar, &QPushButton::clicked, this, [this] { OutputDay_On_Form1(); });
+  connect(cmdCloseThisWindow, &QPushButton::clicked, this, [this] { cmdCloseThisWindow_Click(); });
+}
+
+void frmFindADate::OutputDay() {
+  Form1& form1 = Window<Form1>();
+  if (form1.Form1_Field_Validation_Check_Status(kOutputDay) != 0) return;
+  // Calendarr has told why a date does not exist; the date accepted before stays.
+  const int weekday = form1.Calendarr(kOutputDay);
+  if (weekday == 0) return;
+  form1.Display_Weekday(weekday, kOutputDay);
+  Accept_Entered_Date();
+}
+
+void frmFindADate::Accept_Entered_Date() {
+  cmdConvertAboveDate_->setEnabled(true);
+  cmdDisplayAboveDateOnCalendar->setEnabled(true);
+  const std::string style = Text_Of(ComboCalendar);
+  if (style == "Gregorian (New Style)") {
+    controls::Set_Caption(lblShowCalendarName, "Gregorian");
+    cmdConvertAboveDate_->setText("Convert Above Date To Old Style");
+  } else if (style == "Julian (Old Style)") {
+    controls::Set_Caption(lblShowCalendarName, "Julian");
+    cmdConvertAboveDate_->setText("Convert Above Date To New Style");
+  }
+  // The date and the year as numbers: "05" is 5, and the year loses its leading zeros.
+  const engine::CalendarrDate entered{.month = Text_Of(ComboMonths),
+                                      .date = Value(Text_Of(ComboDate)).whole(),
+                                      .century = Value(Text_Of(ComboCentury)).whole(),
+                                      .two_digit_year = Value(Text_Of(ComboYear)).whole()};
+  controls::Set_Caption(lblShowDate, entered.month + " " + std::to_string(entered.date) + ", " +
+                                         std::to_string(entered.year()));
+}
+
+void frmFindADate::OutputDay_On_Form1() {
+  Form1& form1 = Window<Form1>();
+  if (form1.Form1_Field_Validation_Check_Status(kOutputDayOnForm1) != 0) return;
+  // Calendarr draws the date of lblShowDate, not what the entries hold now.
+  const int weekday = form1.Calendarr(kOutputDayOnForm1);
+  form1.Display_Weekday(weekday, kOutputDayOnForm1);
+}
+
+void frmFindADate::cmdConvertAboveDate__Click() { Window<Form1>().Convert(kConvertAboveDate); }
+
+void frmFindADate::cmdCloseThisWindow_Click() { hide(); }
+
+}  // namespace orrivane

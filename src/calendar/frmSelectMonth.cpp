@@ -1,0 +1,208 @@
+#include "calendar/frmSelectMonth.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMessageBox>
+#include <optional>
+
+#include "calendar/Form1.h"
+#include "calendar/frmLargeCalendar.h"
+#include "core/runtime_failure.h"
+#include "core/text.h"
+#include "core/value.h"
+#include "engine/calendar_engine.h"
+#include "platform/controls.h"
+#include "platform/platform.h"
+#include "platform/window_registry.h"
+
+namespace orrivane {
+
+namespace {
+
+using platform::Machine;
+
+constexpr double kLastYear = 1000000;
+constexpr int kGeneralStatus = 6;
+
+// The number the year text stands for; nothing when it is no number (or too large to hold,
+// which fails the conversion just the same).
+std::optional<double> Year_Number(const std::string& year_text) {
+  try {
+    return Parse_Number(year_text);
+  } catch (const RuntimeFailure&) {
+    return std::nullopt;
+  }
+}
+
+// The Gregorian calendar begins in October 1582.
+bool Before_Gregorian_Calendar(const std::string& month, double year) {
+  if (year < 1582) return true;
+  return year == 1582 && month != "October" && month != "November" && month != "December";
+}
+
+// The status of the entries, 0 when the month can be drawn: 1 no month, 2 no year, 3 a year out
+// of range, 4 a month before the Gregorian calendar, 5 a year that is no number, 6 more than one
+// of these. A year of 0 passes in the Julian style.
+int Entry_Status(const std::string& month, const std::string& year_text, const std::string& style) {
+  int status = 0;
+  int errors = 0;
+  auto error = [&status, &errors](int found) {
+    status = found;
+    ++errors;
+  };
+  if (month.empty()) error(1);
+  if (year_text.empty()) {
+    error(2);
+  } else if (const std::optional<double> year = Year_Number(year_text); !year) {
+    error(5);  // the year tests cannot be made
+  } else if (*year > kLastYear || (*year < 0 && style == "Julian")) {
+    error(3);
+  } else if (style == "Gregorian" && Before_Gregorian_Calendar(month, *year)) {
+    error(4);
+  }
+  if (errors > 1) status = kGeneralStatus;
+  return status;
+}
+
+struct EntryMessage {
+  const char* title;
+  std::string text;
+};
+
+EntryMessage Entry_Message(int status) {
+  switch (status) {
+    case 1: return {"No Month Selected", "A month must be selected."};
+    case 2: return {"No Year Entered", "A year must be entered."};
+    case 3: return {"Invalid Year Entry", "Please enter a value from 1 to 1000000."};
+    case 4:
+      return {"Invalid Month Selection", std::string("For the Gregorian Calendar, please make sure the ") +
+                                             engine::kCarriageReturn + "month selected is October 1582 or later."};
+    case 5: return {"Invalid Year Entry", "The year must contain only numbers."};
+    default: return {"Error", "Please select a month and enter a valid year in the year field."};
+  }
+}
+
+}  // namespace
+
+frmSelectMonth::frmSelectMonth() {
+  setObjectName("frmSelectMonth");
+  setWindowTitle("View Month On Calendar");
+  Build_Controls();
+  Place_Controls();
+  Connect_Controls();
+}
+
+void frmSelectMonth::Build_Controls() {
+  lblSelectMonth = new QLabel("Select Month:", this);
+  lblSelectMonth->setObjectName("lblSelectMonth");
+  ComboMonths = new QComboBox(this);
+  ComboMonths->setObjectName("ComboMonths");
+  for (int month = 1; month <= 12; ++month) {
+    ComboMonths->addItem(QString::fromStdString(engine::Define_Month(month, "Get Month Name").text()));
+  }
+  ComboMonths->setCurrentIndex(-1);
+  ComboMonths->setMaxVisibleItems(12);
+
+  lblSelectYear = new QLabel("Select Year:", this);
+  lblSelectYear->setObjectName("lblSelectYear");
+  txtYear = new QLineEdit(this);
+  txtYear->setObjectName("txtYear");
+  txtYear->setMaxLength(8);
+
+  fraCalendarStyle = new QGroupBox("Calendar Style", this);
+  fraCalendarStyle->setObjectName("fraCalendarStyle");
+  optGregorian = new QRadioButton("Gregorian", fraCalendarStyle);
+  optGregorian->setObjectName("optGregorian");
+  optJulian = new QRadioButton("Julian", fraCalendarStyle);
+  optJulian->setObjectName("optJulian");
+  optGregorian->setChecked(true);
+
+  cmdDisplay = new QPushButton("Display", this);
+  cmdDisplay->setObjectName("cmdDisplay");
+  cmdDisplay->setDefault(true);
+  cmdCancel = new QPushButton("Cancel", this);
+  cmdCancel->setObjectName("cmdCancel");
+}
+
+void frmSelectMonth::Place_Controls() {
+  // Two rows of entries with their labels on the left, the style frame under them, the two
+  // buttons in a column on the right.
+  constexpr int kLabelX = 12, kLabelWidth = 92, kEntryX = 110, kRowHeight = 26;
+  constexpr int kButtonX = 262, kButtonWidth = 96, kButtonHeight = 30;
+  for (QLabel* label : {lblSelectMonth, lblSelectYear}) label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  lblSelectMonth->setGeometry(kLabelX, 14, kLabelWidth, kRowHeight);
+  ComboMonths->setGeometry(kEntryX, 14, 136, kRowHeight);
+  lblSelectYear->setGeometry(kLabelX, 50, kLabelWidth, kRowHeight);
+  txtYear->setGeometry(kEntryX, 50, 96, kRowHeight);
+  fraCalendarStyle->setGeometry(kLabelX, 88, 234, 58);
+  optGregorian->setGeometry(14, 26, 100, 22);
+  optJulian->setGeometry(130, 26, 90, 22);
+  cmdDisplay->setGeometry(kButtonX, 12, kButtonWidth, kButtonHeight);
+  cmdCancel->setGeometry(kButtonX, 50, kButtonWidth, kButtonHeight);
+  setFixedSize(kButtonX + kButtonWidth + 12, 158);
+}
+
+void frmSelectMonth::Connect_Controls() {
+  connect(cmdDisplay, &QPushButton::clicked, this, [this] { cmdDisplay_Click(); });
+  connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
+}
+
+std::string frmSelectMonth::Selected_Style() const { return optJulian->isChecked() ? "Julian" : "Gregorian"; }
+
+void frmSelectMonth::cmdCancel_Click() { hide(); }
+
+bool frmSelectMonth::event(QEvent* event) {
+  if (event->type() == QEvent::WindowDeactivate) Form_Deactivate();
+  return QWidget::event(event);
+}
+
+void frmSelectMonth::Form_Deactivate() {
+  // A message box is not another window of the program: the entries stay for correction.
+  if (showing_message_ || qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr) return;
+  hide();
+}
+
+void frmSelectMonth::Show_Entry_Message(int status) {
+  const EntryMessage message = Entry_Message(status);
+  showing_message_ = true;
+  Machine().Message_Box(message.text, platform::vbOKOnly, platform::vbExclamation, message.title);
+  showing_message_ = false;
+}
+
+void frmSelectMonth::cmdDisplay_Click() {
+  const std::string style = Selected_Style();
+  const std::string month = ComboMonths->currentText().toStdString();
+  const std::string year_text = txtYear->text().toStdString();
+  if (const int status = Entry_Status(month, year_text, style); status != 0) {
+    Show_Entry_Message(status);
+    return;
+  }
+  Display_Month(month, Value(year_text).whole(), style);
+}
+
+void frmSelectMonth::Display_Month(const std::string& month, long long year, const std::string& style) {
+  Form1& form1 = Window<Form1>();
+  frmLargeCalendar& large = Window<frmLargeCalendar>();
+  const std::string year_text = std::to_string(year);
+  const std::string month_and_year = month + " " + year_text;
+
+  controls::Set_Caption(form1.lblMonthYear, month_and_year);
+  controls::Set_Caption(form1.lblCalendarNameOverCalendar, text::UCase(style) + " CALENDAR");
+  large.Show_Month_Heading(month_and_year, style, engine::Define_Month(month, "Get Month Number").whole());
+
+  controls::Set_Caption(form1.lblStoreMonth, month);
+  controls::Set_Caption(form1.lblStoreYear, year_text);
+  form1.Enable_Calendar_Month_Scrolling();
+
+  const engine::MonthGrid grid = engine::Select_Month_Grid(month, year, *engine::Calendar_Style_From_Text(style));
+  form1.face.Write_Grid(grid);
+  large.face.Write_Grid(grid);
+
+  large.Show_Task_List_Choice(style == "Gregorian");
+  hide();
+
+  large.Display_TaskList(style);
+  form1.Display_Side_Calendars(controls::Caption(form1.lblStoreMonth), controls::Caption(form1.lblStoreYear), style);
+}
+
+}  // namespace orrivane
