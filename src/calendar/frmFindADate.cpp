@@ -1,6 +1,7 @@
 #include "calendar/frmFindADate.h"
 
 #include <string>
+#include <utility>
 
 #include "calendar/Form1.h"
 #include "core/value.h"
@@ -108,7 +109,9 @@ void frmFindADate::Place_Controls() {
   // The entries with their labels right-aligned against them, the ENTER button beside the
   // century and year, the answer below in the same two columns, the three buttons at the foot.
   constexpr int kMargin = 12, kLabelWidth = 150, kEntryX = kMargin + kLabelWidth + 8, kRowHeight = 26;
-  constexpr int kRight = kEntryX + 196;  // right edge of the entries and of the buttons
+  constexpr int kRight = kEntryX + 236;  // right edge of the entries and of the buttons
+  // The long wording of the day line ("The day after tomorrow will be:") needs a wider label.
+  constexpr int kAnswerLabelWidth = 214, kAnswerX = kMargin + kAnswerLabelWidth + 6;
   for (QLabel* label : {lblSelectCalendarStyle, lblSelectMonthDate, lblChooseCentury, lblChooseYear, lblDisplayDay,
                         lblDate, lblCalendarName}) {
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -116,22 +119,23 @@ void frmFindADate::Place_Controls() {
   lblSelectCalendarStyle->setGeometry(kMargin, 14, kLabelWidth, kRowHeight);
   ComboCalendar->setGeometry(kEntryX, 14, kRight - kEntryX, kRowHeight);
   lblSelectMonthDate->setGeometry(kMargin, 48, kLabelWidth, kRowHeight);
-  ComboMonths->setGeometry(kEntryX, 48, 124, kRowHeight);
-  ComboDate->setGeometry(kEntryX + 130, 48, kRight - kEntryX - 130, kRowHeight);
+  ComboMonths->setGeometry(kEntryX, 48, 150, kRowHeight);
+  ComboDate->setGeometry(kEntryX + 156, 48, kRight - kEntryX - 156, kRowHeight);
   lblChooseCentury->setGeometry(kMargin, 82, kLabelWidth, kRowHeight);
   ComboCentury->setGeometry(kEntryX, 82, 80, kRowHeight);
   lblChooseYear->setGeometry(kMargin, 116, kLabelWidth, kRowHeight);
   ComboYear->setGeometry(kEntryX, 116, 80, kRowHeight);
   cmdENTER->setGeometry(kEntryX + 96, 82, kRight - kEntryX - 96, 60);
 
-  lblDisplayDay->setGeometry(kMargin, 160, kLabelWidth + 30, kRowHeight);
-  txtShowWeekday->setGeometry(kEntryX + 30, 160, kRight - kEntryX - 30, kRowHeight);
-  lblDate->setGeometry(kMargin, 192, kLabelWidth + 30, kRowHeight);
-  lblShowDate->setGeometry(kEntryX + 30, 192, kRight - kEntryX - 30, kRowHeight);
-  lblCalendarName->setGeometry(kMargin, 220, kLabelWidth + 30, kRowHeight);
-  lblShowCalendarName->setGeometry(kEntryX + 30, 220, kRight - kEntryX - 30, kRowHeight);
+  int line = 160;
+  for (auto [label, answer] : {std::pair<QLabel*, QWidget*>{lblDisplayDay, txtShowWeekday},
+                               {lblDate, lblShowDate}, {lblCalendarName, lblShowCalendarName}}) {
+    label->setGeometry(kMargin, line, kAnswerLabelWidth, kRowHeight);
+    answer->setGeometry(kAnswerX, line, kRight - kAnswerX, kRowHeight);
+    line += 30;
+  }
 
-  int y = 258;
+  int y = line + 10;
   for (QPushButton* button : {cmdConvertAboveDate_, cmdDisplayAboveDateOnCalendar, cmdCloseThisWindow}) {
     button->setGeometry(kMargin, y, kRight - kMargin, 30);
     y += 36;
