@@ -273,23 +273,32 @@ Holiday_Date Count_Forward(const Era& era, Month_And_Date easter, bool leap) {
   return {Month_In_Year(month), date + days, era.weekday};
 }
 
-bool Is_Leap(int year) { return engine::Is_It_A_Leap_Year(year, "Gregorian"); }
+// What the movable feasts of a year share, worked out once for all of them.
+struct Year_Facts {
+  int year;
+  bool leap;
+  Month_And_Date easter;
+};
 
-Holiday_Date Work_Out(const Holiday_Rule& rule, int year) {
-  const Era& era = Era_Of_Year(rule, year);
+Year_Facts Facts_Of(int year) {
+  return {year, engine::Is_It_A_Leap_Year(year, "Gregorian"), Easter_Month_And_Date(year)};
+}
+
+Holiday_Date Work_Out(const Holiday_Rule& rule, const Year_Facts& facts) {
+  const Era& era = Era_Of_Year(rule, facts.year);
   switch (era.kind) {
     case Rule_Kind::Fixed_Date:
-      return Fixed_Date(era, Weekday_Of_First(era.month, rule.side, year));
+      return Fixed_Date(era, Weekday_Of_First(era.month, rule.side, facts.year));
     case Rule_Kind::Beginning_Of_Month:
-      return Beginning_Of_Month(era, Weekday_Of_First(era.month, rule.side, year));
+      return Beginning_Of_Month(era, Weekday_Of_First(era.month, rule.side, facts.year));
     case Rule_Kind::End_Of_Month:
-      return End_Of_Month(era, Weekday_Of_First(era.month, rule.side, year), Month_Length(era.month, false));
+      return End_Of_Month(era, Weekday_Of_First(era.month, rule.side, facts.year), Month_Length(era.month, false));
     case Rule_Kind::Days_Before_Easter:
-      return Days_Before_Easter(era, Easter_Month_And_Date(year), Is_Leap(year));
+      return Days_Before_Easter(era, facts.easter, facts.leap);
     case Rule_Kind::Count_Backward:
-      return Count_Backward(era, Easter_Month_And_Date(year), Is_Leap(year));
+      return Count_Backward(era, facts.easter, facts.leap);
     case Rule_Kind::Count_Forward:
-      return Count_Forward(era, Easter_Month_And_Date(year), Is_Leap(year));
+      return Count_Forward(era, facts.easter, facts.leap);
     case Rule_Kind::None:
       break;
   }
@@ -332,11 +341,11 @@ Customer Customer_Of(std::string_view Calling_Sub_Origin) {
   return Customer::Nobody;
 }
 
-void Deliver(Customer customer, const Holiday_Rule& rule, int year, Holiday_Receiver& receiver) {
+void Deliver(Customer customer, const Holiday_Rule& rule, const Year_Facts& facts, Holiday_Receiver& receiver) {
   if (customer == Customer::Nobody) return;
-  const Holiday_Date when = Work_Out(rule, year);
+  const Holiday_Date when = Work_Out(rule, facts);
   if (customer == Customer::Find_A_Holiday_List) {
-    receiver.Add_List_Line(List_Line(rule.name, when, year));
+    receiver.Add_List_Line(List_Line(rule.name, when, facts.year));
   } else {
     const std::string_view month = Calendar_Words().month_name[static_cast<std::size_t>(Month_In_Year(when.month))];
     receiver.Add_Table_Entry({rule.name, month, when.date});
@@ -348,7 +357,7 @@ std::int64_t Run_Years(const Holiday_Rule& rule, int from, int to, Customer cust
   const int step = from > to ? -1 : 1;
   std::int64_t lines = 0;
   for (int year = from;; year += step) {
-    Deliver(customer, rule, year, receiver);
+    Deliver(customer, rule, Facts_Of(year), receiver);
     ++lines;
     if (year == to) break;
   }
@@ -427,7 +436,7 @@ std::optional<Holiday_Date> Holiday_Date_In_Year(int holiday, std::int64_t year)
   if (holiday < 0 || holiday >= kHolidayCount) return std::nullopt;
   const Holiday_Rule& rule = kHolidays[static_cast<std::size_t>(holiday)];
   if (!Exists_In(rule, year)) return std::nullopt;
-  return Work_Out(rule, static_cast<int>(year));
+  return Work_Out(rule, Facts_Of(static_cast<int>(year)));
 }
 
 std::string Holiday_List_Line(int holiday, std::int64_t year, const Holiday_Date& when) {
@@ -489,10 +498,11 @@ int Display_All_Holidays_For_Selected_Year(const Value& Year_, std::string_view 
   const std::optional<int> year = Year_In_Reach(Year_);
   if (!year) return 0;
   const Customer customer = Customer_Of(Calling_Sub_Origin);
+  const Year_Facts facts = Facts_Of(*year);
   int delivered = 0;
   for (const Holiday_Rule& rule : kHolidays) {
     if (!Exists_In(rule, *year)) continue;
-    Deliver(customer, rule, *year, receiver);
+    Deliver(customer, rule, facts, receiver);
     ++delivered;
   }
   return delivered;
