@@ -29,11 +29,12 @@ class frmFindADateTest : public WindowTest {
   void SetUp() override {
     WindowTest::SetUp();
     // The program starts as the user starts it (today is 15 March 2024), then the user opens
-    // this window from the main window.
+    // this window from the menu of the large calendar, the one on show.
     Window<Form1>().show();
     Process_Events();
-    window().show();
+    Window<frmLargeCalendar>().menu->Action("mnuFindADatesWeekday")->trigger();
     Process_Events();
+    ASSERT_TRUE(window().isVisible());
   }
 
   frmFindADate& window() { return Window<frmFindADate>(); }

@@ -31,12 +31,11 @@ class frmSelectMonthTest : public WindowTest {
     Open();
   }
 
-  // As the main window's "Display A Month On Calendar" does.
+  // The user opens the window from the menu of the large calendar, the one on show.
   void Open() {
-    window().show();
-    window().raise();
-    window().activateWindow();
+    Window<frmLargeCalendar>().menu->Action("mnuSelect")->trigger();
     Process_Events();
+    ASSERT_TRUE(window().isVisible());
   }
 
   frmSelectMonth& window() { return Window<frmSelectMonth>(); }
