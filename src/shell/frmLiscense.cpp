@@ -33,9 +33,12 @@ struct ButtonPlace {
   int x, width;  // pixels, on the row above the text
 };
 constexpr ButtonPlace kButtons[] = {
-    {"CmdHome", "Home", "reset", 33, 70},          {"CmdPageUp", "Page Up", "pageup", 107, 80},
-    {"CmdUP", "Up", "up", 191, 70},                {"CmdDown", "Down", "down", 265, 70},
-    {"CmdPageDown", "Page Down", "pagedown", 339, 90}, {"CmdEnd", "End", "end", 433, 70},
+    {"CmdHome", "Home", "reset", 33, 70},
+    {"CmdPageUp", "Page Up", "pageup", 107, 80},
+    {"CmdUP", "Up", "up", 191, 70},
+    {"CmdDown", "Down", "down", 265, 70},
+    {"CmdPageDown", "Page Down", "pagedown", 339, 90},
+    {"CmdEnd", "End", "end", 433, 70},
 };
 constexpr int kButtonTop = 28;
 constexpr int kButtonHeight = 30;
