@@ -1,13 +1,113 @@
 #pragma once
-// The main calendar window.
+// The main calendar window: the month grid with the side calendars, the line that tells the
+// selected date, ten buttons and the menu of the whole program. Its first activation starts
+// the program. The calendar procedures are its public procedures; the large calendar mirrors
+// the same grid.
+#include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
+#include <QPushButton>
+#include <memory>
+#include <string>
+
+#include "calendar/CalendarFace.h"
+#include "calendar/MenuTree.h"
+#include "core/value.h"
+#include "engine/calendar_engine.h"
 
 namespace orrivane {
+
+// Shows a window and brings it to the front.
+void Show_In_Front(QWidget& window);
 
 class Form1 : public QMainWindow {
   Q_OBJECT
  public:
   Form1();
+
+  // ---- Controls --------------------------------------------------------------------------
+  CalendarFace face;
+  QLabel* lblStoreMonth;
+  QLabel* lblStoreYear;
+  QLabel* lblStoreScheduleFileName;
+  QLabel* lblStoreScheduleFilePath;
+  QLabel* lblCalendarNameOverCalendar;
+  QLabel* lblMonthYear;
+  QLabel* lblShowDate;
+  QLabel* lblShowCalendarName;
+  QLineEdit* txtShowWeekday;
+  QLabel* lblDisplayDay;
+  QLabel* lblDate;
+  QPushButton* cmdPriorMonth;
+  QPushButton* cmdNextMonth;
+  QPushButton* cmdDisplayTodaysDate;
+  QPushButton* cmdDisplayMonthOnCalendar;
+  QPushButton* cmdFindADatesWeekday;
+  QPushButton* cmdFindHolidayDates;
+  QPushButton* CmdConvert;
+  QPushButton* cmdPrintTheCalendar;
+  QPushButton* cmdOrganizer;
+  QPushButton* cmdExit;
+  std::unique_ptr<MenuTree> menu;
+
+  // ---- Month stepping and drawing ----------------------------------------------------------
+  void Display_Next_Month_On_Calendar();
+  void Display_Prior_Month_On_Calendar();
+  void Display_Side_Calendars(const Value& Month_Name, const Value& Year_, const std::string& CalStyle);
+  void Enable_Calendar_Month_Scrolling();
+  // Draws a month whose first falls on `first_weekday` on both windows, with no date selected.
+  void Draw_Month(int first_weekday, int length, int prior_length);
+  // Sets the next (or prior) controls of both windows.
+  void Enable_Next_Month(bool enabled);
+  void Enable_Prior_Month(bool enabled);
+  // Brings a month reached by stepping on both windows: the stores, headings and cells, then
+  // the task lists and the side calendars.
+  void Show_Stepped_Month(long long month, long long year, const std::string& style, int first_weekday);
+  // Draws the month of a valid date on both windows with the date in red.
+  void Draw_Selected_Date(const engine::CalendarrDate& date);
+
+  // ---- Weekday, layout and the day line ------------------------------------------------------
+  int Calendarr(const std::string& CallingSubOrigin);
+  int Form1_Field_Validation_Check_Status(const std::string& Calling_Sub_Origin);
+  void Format_Day_Of_Week_Label(const std::string& Month_, const Value& Date_, const Value& Year_,
+                                const std::string& CalStyle, const std::string& Calling_Sub_Origin);
+  void Display_Weekday(int WeekDayNo, const std::string& Calling_Sub_Origin);
+  void Display_Todays_Date();
+  Value Store_Format_Day_Of_Week_Label_Variables(const std::string& Variable_Name,
+                                                 const std::string& Action_To_Perform, const Value& value = {});
+
+  // ---- Conversion ------------------------------------------------------------------------
+  void Cal_Conversion();
+  void Convert(const std::string& Calling_Sub_Origin);
+
+  // ---- Colours -----------------------------------------------------------------------------
+  int Current_Month_Color(const std::string& Action_To_Perform, int value = 0);
+  void Set_Current_Month_Calendar_Colors();
+
+  // ---- Windows and the way out ---------------------------------------------------------------
+  void Activate_Large_Calendar();
+  void Terminate_This_Program(const std::string& PlaceOfOrigin);
+  void Form_Activate();
+
+  // The style on show, read back from the heading: "Gregorian", "Julian" or "".
+  std::string Style_On_Show() const;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  void Build_Controls();
+  void Build_Menu();
+  void Connect_Controls();
+  void Show_Options_Notice();
+  void Start_Program();
+
+  int activations_ = 0;
+  int month_color_ = 0;
+  Value cal_style_;
+  Value date_string_;
 };
 
 }  // namespace orrivane

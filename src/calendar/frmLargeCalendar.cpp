@@ -1,0 +1,306 @@
+#include "calendar/frmLargeCalendar.h"
+
+#include <QAbstractItemView>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <functional>
+
+#include "calendar/Form1.h"
+#include "calendar/frmFindADate.h"
+#include "calendar/frmSelectMonth.h"
+#include "calendar/task_overlay.h"
+#include "shell/frmAbout.h"
+#include "shell/frmLiscense.h"
+#include "core/sequential_file.h"
+#include "engine/calendar_engine.h"
+#include "organizer/schedule_record.h"
+#include "platform/controls.h"
+#include "platform/window_registry.h"
+
+namespace orrivane {
+
+namespace {
+
+constexpr MenuEntry kLargeCalendarMenu[] = {
+    {"", "mnuFile", "&File", ""},
+    {"mnuFile", "mnuNewLog", "New Log", ""},
+    {"mnuFile", "mnuOpenLog", "Open Log...", "Ctrl+O"},
+    {"mnuFile", "mnuSaveLog", "Save Log", "Ctrl+S"},
+    {"mnuFile", "mnuSaveLogAs", "Save Log As...", "Ctrl+V"},
+    {"mnuFile", "mnuPrintLog", "Print Log...", "F2"},
+    {"mnuFile", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2"},
+    {"mnuFile", "mnuExit", "Exit", "Ctrl+Q"},
+    {"", "mnuView", "&View", ""},
+    {"mnuView", "mnuTodaysDates", "Today's Date", "Ctrl+D"},
+    {"mnuView", "mnuMonth", "Month", "", true},
+    {"mnuMonth", "mnuNext", "Next", "Ctrl+N"},
+    {"mnuMonth", "mnuPrevious", "Previous", "Ctrl+P"},
+    {"mnuMonth", "mnuSelect", "Select...", "Ctrl+M"},
+    {"mnuView", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I"},
+    {"", "mnuLog", "&Log", ""},
+    {"mnuLog", "mnuAddNewTaskEventToLog", "Add New Task\\Event To Log...", "Ctrl+E"},
+    {"mnuLog", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G"},
+    {"mnuLog", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3"},
+    {"mnuLog", "mnuDeleteGroupMember", "Delete Group Member From Log...", "Shift+F3"},
+    {"", "mnuTools", "&Tools", ""},
+    {"mnuTools", "mnuConvertThisDate", "Convert This Date...", "Ctrl+C"},
+    {"mnuTools", "mnuFindADatesWeekday", "Find A Date's Weekday", "Ctrl+W"},
+    {"mnuTools", "mnuFindHolidayDates", "Find Holiday Dates...", "Ctrl+H"},
+    {"mnuTools", "mnuSchedulerReminder", "Organizer...", "F3"},
+    {"mnuTools", "mnuFindTimeLengthBetweenDates", "Find Time Length Between Dates", "Ctrl+T"},
+    {"mnuTools", "mnuReminders", "Reminders", "", true},
+    {"mnuReminders", "mnuAdd", "Add...", "F6"},
+    {"mnuReminders", "mnuChange", "Change...", "Ctrl+F6"},
+    {"mnuReminders", "mnuDelete", "Delete...", "Shift+F6"},
+    {"", "mnuWindow", "&Window", ""},
+    {"mnuWindow", "mnuMinimizeToTaskbar", "Minimize To Taskbar", "F5"},
+    {"mnuWindow", "mnuMaximize", "Maximize", "Ctrl+F5"},
+    {"mnuWindow", "mnuWindowed", "Windowed", "Shift+F5"},
+    {"mnuWindow", "mnuSmallWindow", "Small Window", "F4"},
+    {"", "mnuHelp", "&Help", ""},
+    {"mnuHelp", "mnuContents", "Contents...", "F1"},
+    {"mnuHelp", "mnuLicense", "License...", "Ctrl+L"},
+    {"mnuHelp", "mnuAbout", "About...", "Ctrl+A"},
+};
+
+constexpr const char* kNotYetAvailable[] = {
+    "mnuNewLog", "mnuOpenLog", "mnuSaveLog", "mnuSaveLogAs", "mnuPrintLog", "mnuPrintCalendar",
+    "mnuTaskEventInfo", "mnuAddNewTaskEventToLog", "mnuAddNewGroupMember", "mnuDeleteATaskEvent",
+    "mnuDeleteGroupMember", "mnuFindHolidayDates", "mnuSchedulerReminder", "mnuFindTimeLengthBetweenDates",
+    "mnuAdd", "mnuChange", "mnuDelete", "mnuContents",
+};
+
+// A combo box that tells when its list is about to open.
+class DropDownComboBox : public QComboBox {
+ public:
+  DropDownComboBox(QWidget* parent, std::function<void()> on_drop_down)
+      : QComboBox(parent), on_drop_down_(std::move(on_drop_down)) {}
+  void showPopup() override {
+    on_drop_down_();
+    QComboBox::showPopup();
+  }
+
+ private:
+  std::function<void()> on_drop_down_;
+};
+
+QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
+  auto* label = new QLabel(caption, parent);
+  label->setObjectName(name);
+  return label;
+}
+
+QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  return button;
+}
+
+}  // namespace
+
+frmLargeCalendar::frmLargeCalendar() : face(new QWidget) {
+  setObjectName("frmLargeCalendar");
+  setWindowTitle("Orrivane 3.0");
+  setCentralWidget(face.lblCalDate[0]->parentWidget());
+  Build_Controls();
+  Build_Menu();
+  Connect_Controls();
+  resize(1200, 800);
+  setWindowState(Qt::WindowMaximized);
+}
+
+void frmLargeCalendar::Build_Controls() {
+  QWidget* body = centralWidget();
+  lblMonthNumberShadow = Make_Label(body, "lblMonthNumberShadow");
+  lblMonthNumber = Make_Label(body, "lblMonthNumber");
+  lblMonthYear = Make_Label(body, "lblMonthYear");
+  lblCalendarNameOverCalendar = Make_Label(body, "lblCalendarNameOverCalendar", "GREGORIAN CALENDAR");
+  lblShowDate = Make_Label(body, "lblShowDate");
+  Label1 = Make_Label(body, "Label1", "Show Task List For");
+  cboShowTaskListFor = new DropDownComboBox(body, [this] { cboShowTaskListFor_DropDown(); });
+  cboShowTaskListFor->setObjectName("cboShowTaskListFor");
+  cboShowTaskListFor->setEditable(true);
+  for (int i = 0; i < 42; ++i) {
+    cboAppointments[i] = new QComboBox(body);
+    cboAppointments[i]->setObjectName(controls::Array_Name("cboAppointments", i));
+    cboAppointments[i]->hide();
+  }
+  cmdPriorMonth = Make_Button(body, "cmdPriorMonth", "<< Prior Month");
+  cmdNextMonth = Make_Button(body, "cmdNextMonth", "Next Month >>");
+  cmdExit = Make_Button(body, "cmdExit", "EXIT");
+  for (QLabel* figure : {lblMonthNumber, lblMonthNumberShadow}) {
+    figure->setAlignment(Qt::AlignCenter);
+  }
+  lblMonthYear->setAlignment(Qt::AlignCenter);
+  lblCalendarNameOverCalendar->setAlignment(Qt::AlignCenter);
+  lblShowDate->setAlignment(Qt::AlignCenter);
+}
+
+void frmLargeCalendar::Build_Menu() {
+  menu = std::make_unique<MenuTree>(menuBar(), kLargeCalendarMenu);
+  for (const char* name : kNotYetAvailable) menu->Action(name)->setEnabled(false);
+}
+
+void frmLargeCalendar::Connect_Controls() {
+  connect(cmdNextMonth, &QPushButton::clicked, this, [] { Window<Form1>().Display_Next_Month_On_Calendar(); });
+  connect(cmdPriorMonth, &QPushButton::clicked, this, [] { Window<Form1>().Display_Prior_Month_On_Calendar(); });
+  connect(cmdExit, &QPushButton::clicked, this,
+          [] { Window<Form1>().Terminate_This_Program("frmLargeCalendar.cmdExit_Click()"); });
+  menu->On("mnuExit", [] { Window<Form1>().Terminate_This_Program("mnuExit_Click()"); });
+  menu->On("mnuTodaysDates", [] { Window<Form1>().Display_Todays_Date(); });
+  menu->On("mnuNext", [] { Window<Form1>().Display_Next_Month_On_Calendar(); });
+  menu->On("mnuPrevious", [] { Window<Form1>().Display_Prior_Month_On_Calendar(); });
+  menu->On("mnuConvertThisDate", [] { Window<Form1>().Cal_Conversion(); });
+  menu->On("mnuMinimizeToTaskbar", [this] { setWindowState(Qt::WindowMinimized); });
+  menu->On("mnuMaximize", [this] { setWindowState(Qt::WindowMaximized); });
+  menu->On("mnuWindowed", [this] { setWindowState(Qt::WindowNoState); });
+  menu->On("mnuSmallWindow", [this] { Activate_Form1(); });
+  menu->On("mnuSelect", [] { Show_In_Front(Window<frmSelectMonth>()); });
+  menu->On("mnuFindADatesWeekday", [] { Window<frmFindADate>().show(); });
+  menu->On("mnuLicense", [] { Window<frmLiscense>().show(); });
+  menu->On("mnuAbout", [] { Window<frmAbout>().show(); });
+  connect(cboShowTaskListFor, &QComboBox::activated, this, [this] { Refresh_Calendar_TaskList(); });
+}
+
+void frmLargeCalendar::Show_Month_Heading(const std::string& month_and_year, const std::string& style,
+                                          long long month_number) {
+  controls::Set_Caption(lblMonthYear, month_and_year);
+  std::string heading = style == "Julian" ? "JULIAN" : "GREGORIAN";
+  controls::Set_Caption(lblCalendarNameOverCalendar, heading + " CALENDAR");
+  controls::Set_Caption(lblMonthNumber, std::to_string(month_number));
+  controls::Set_Caption(lblMonthNumberShadow, std::to_string(month_number));
+  controls::Set_Caption(lblShowDate, "");
+}
+
+void frmLargeCalendar::Refresh_Calendar_TaskList() {
+  const std::string heading = controls::Caption(lblCalendarNameOverCalendar);
+  std::string style;
+  if (heading.find("GREGORIAN") != std::string::npos) style = "Gregorian";
+  if (heading.find("JULIAN") != std::string::npos) style = "Julian";
+  Display_TaskList(style);
+}
+
+void frmLargeCalendar::Display_TaskList(const std::string& Cal_Style) {
+  for (QComboBox* list : cboAppointments) {
+    list->clear();
+    list->hide();
+  }
+  if (Cal_Style == "Julian") return;
+  const Form1& main = Window<Form1>();
+  calendar::ShownMonth shown;
+  shown.year = Value(controls::Caption(main.lblStoreYear)).whole();
+  shown.month = static_cast<long long>(engine::Define_Month(controls::Caption(main.lblStoreMonth), "Get Month Number").number());
+  const bool leap = engine::Is_It_A_Leap_Year(shown.year, "Gregorian");
+  shown.length = static_cast<long long>(
+      engine::Define_Month(shown.month, leap ? "Get Max Days Leap Year" : "Get Max Days").number());
+  const calendar::Captions captions = face.Date_Captions();
+  for (int cell = 0; cell <= 6; ++cell) {
+    if (Value(captions[cell]) == Value(1)) shown.first_cell = cell;
+  }
+  shown.first_caption = Value(captions[0]).whole();
+  shown.last_caption = Value(captions[41]).whole();
+  const std::string member = cboShowTaskListFor->currentText().toStdString();
+
+  SequentialReader log("Schedule.tmp");
+  organizer::ScheduleRecord record;
+  while (!log.Eof()) {
+    organizer::Schedule_File("Input", log, record);
+    if (record.Record_Number.number() <= -1 || record.Person_Name != Value(member)) continue;
+    const long long year = static_cast<long long>(record.Start_Century.number() * 100 + record.Start_Year.number());
+    const long long date = static_cast<long long>(record.Start_Date.number());
+    for (int cell : calendar::Task_Cells(shown, record.Start_Month.text(), date, year)) {
+      cboAppointments[cell]->show();
+      cboAppointments[cell]->addItem(QString::fromStdString(
+          calendar::Task_Item(record.Start_Hour.text(), record.Task_Name.text(), record.Record_Number.text())));
+    }
+  }
+}
+
+void frmLargeCalendar::cboShowTaskListFor_DropDown() {
+  SequentialReader log("Schedule.tmp");
+  organizer::ScheduleRecord record;
+  while (!log.Eof()) {
+    organizer::Schedule_File("Input", log, record);
+    const QString name = QString::fromStdString(record.Person_Name.text());
+    if (cboShowTaskListFor->findText(name, Qt::MatchExactly) < 0) cboShowTaskListFor->addItem(name);
+  }
+}
+
+void frmLargeCalendar::Show_Task_List_Choice(bool shown) {
+  cboShowTaskListFor->setVisible(shown);
+  Label1->setVisible(shown);
+}
+
+void frmLargeCalendar::Set_Current_Month_Calendar_Colors() {
+  calendar::LargeCalendarColors colors;
+  if (!calendar::Large_Calendar_Month_Colors(Window<Form1>().Current_Month_Color("Get Value"), colors)) return;
+  for (QLabel* label : {face.lblPriorMonthName, face.lblNextMonthName, face.lblCalendarWeekDaysBackground}) {
+    controls::Set_Back_Color(label, colors.main);
+  }
+  for (QLabel* label : {lblMonthNumber, lblMonthYear}) controls::Set_Fore_Color(label, colors.main);
+  controls::Set_Fore_Color(lblMonthNumberShadow, colors.shadow);
+}
+
+void frmLargeCalendar::Activate_Form1() {
+  Form1& main = Window<Form1>();
+  main.show();
+  hide();
+  controls::Set_Back_Color(main.face.lblCalendarDatesBackground, controls::Back_Color(face.lblCalendarDatesBackground));
+  controls::Set_Back_Color(main.face.lblCalendarWeekDaysBackground,
+                           controls::Back_Color(face.lblCalendarWeekDaysBackground));
+}
+
+void frmLargeCalendar::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  Window<Form1>().Terminate_This_Program("Form_Unload");
+}
+
+void frmLargeCalendar::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  Place_Controls();
+}
+
+void frmLargeCalendar::Place_Controls() {
+  const QSize area = centralWidget()->size();
+  const int w = std::max(area.width(), 900);
+  const int h = std::max(area.height(), 600);
+  const int side = std::max(170, w / 7);
+  const int margin = 12;
+  const int grid_x = side + 2 * margin;
+  const int grid_w = w - 2 * grid_x;
+  const int top = 70;
+  const int grid_h = h - top - 60;
+  face.Place(QRect(grid_x, top, grid_w, grid_h), QRect(margin, top + 90, side, side * 6 / 7 + 20),
+             QRect(w - margin - side, top + 90, side, side * 6 / 7 + 20), std::max(16, grid_h / 24));
+
+  QFont figure = lblMonthNumber->font();
+  figure.setPixelSize(72);
+  figure.setBold(true);
+  lblMonthNumber->setFont(figure);
+  lblMonthNumberShadow->setFont(figure);
+  lblMonthNumber->setGeometry(margin, top + side + 140, side, 90);
+  lblMonthNumberShadow->setGeometry(margin + 4, top + side + 144, side, 90);
+  QFont heading = lblMonthYear->font();
+  heading.setPixelSize(24);
+  heading.setBold(true);
+  lblMonthYear->setFont(heading);
+  lblMonthYear->setGeometry(grid_x, 32, grid_w, 34);
+  heading.setPixelSize(14);
+  lblCalendarNameOverCalendar->setFont(heading);
+  lblCalendarNameOverCalendar->setGeometry(grid_x, 8, grid_w, 22);
+  lblShowDate->setGeometry(w - margin - side, top + side + 160, side, 24);
+  Label1->setGeometry(margin, top, side, 22);
+  cboShowTaskListFor->setGeometry(margin, top + 24, side, 26);
+  cmdPriorMonth->setGeometry(grid_x, h - 48, 160, 34);
+  cmdNextMonth->setGeometry(grid_x + grid_w - 160, h - 48, 160, 34);
+  cmdExit->setGeometry(w - margin - side, h - 48, side, 34);
+
+  // Each day's list of tasks lies over the lower part of its cell.
+  for (int i = 0; i < 42; ++i) {
+    const QRect cell = face.lblCalDate[i]->geometry();
+    cboAppointments[i]->setGeometry(cell.x() + 2, cell.bottom() - 26, cell.width() - 4, 24);
+    cboAppointments[i]->raise();
+  }
+}
+
+}  // namespace orrivane
