@@ -102,7 +102,8 @@ void CalendarFace::Place(const QRect& grid_area, const QRect& prior_area, const 
     const QRect body(area.x(), area.y() + name_height, area.width(), area.height() - name_height);
     background->setGeometry(body);
     QFont small = cells[0]->font();
-    small.setPixelSize(std::max(9, body.height() / 9));
+    // Two-digit days must keep a gap between them in cells a seventh of the width.
+    small.setPixelSize(std::max(8, std::min(body.height() / 10, body.width() / 14)));
     for (QLabel* cell : cells) cell->setFont(small);
     Place_Cells(cells, body.adjusted(3, 3, -3, -3), Qt::AlignCenter);
   };
