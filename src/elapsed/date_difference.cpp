@@ -1,5 +1,6 @@
 #include "elapsed/date_difference.h"
 
+#include <array>
 #include <tuple>
 
 #include "core/runtime_failure.h"
@@ -26,8 +27,32 @@ void Check_Moment(const Moment& moment) {
 
 auto Order_Key(const Moment& m) { return std::tie(m.Four_Digit_Year, m.Month_Number, m.Date, m.Hour, m.Minute); }
 
+// The engine's month lengths of a common and of a leap year, looked up once: a month whose two
+// lengths agree needs no leap test, so a walk of eleven months asks about its year at most once
+// and costs the same in any year.
+struct Month_Lengths {
+  std::array<long long, 13> common{};
+  std::array<long long, 13> leap{};
+};
+
+const Month_Lengths& Lengths_Of_The_Engine() {
+  static const Month_Lengths lengths = [] {
+    Month_Lengths table;
+    for (int month = 1; month <= 12; ++month) {
+      table.common[month] = static_cast<long long>(engine::Define_Month(month, "Get Max Days").number());
+      table.leap[month] = static_cast<long long>(engine::Define_Month(month, "Get Max Days Leap Year").number());
+    }
+    return table;
+  }();
+  return lengths;
+}
+
+// As Is_It_A_Valid_Date(month, "Get Max Days", year, Cal_Style) answers it.
 long long Month_Length(long long month, long long year, const std::string& Cal_Style) {
-  return static_cast<long long>(engine::Is_It_A_Valid_Date(month, "Get Max Days", year, Cal_Style).number());
+  const Month_Lengths& lengths = Lengths_Of_The_Engine();
+  const auto m = static_cast<std::size_t>(month);
+  if (lengths.common[m] == lengths.leap[m]) return lengths.common[m];
+  return engine::Is_It_A_Leap_Year(year, Cal_Style) ? lengths.leap[m] : lengths.common[m];
 }
 
 // Field-wise subtraction of E from L with borrows. The day borrow takes the length of the month

@@ -78,14 +78,15 @@ Digit_Array Subtract(const Operand& first, const Operand& second, int top) {
 // failures are those of forming the whole table first.
 Digit_Array Multiply(const Operand& first, const Operand& second) {
   Digit_Array result{};
+  Digit_Array row{};
   for (int i = 1; i <= first.length; ++i) {
-    Digit_Array row{};
+    std::fill(row.begin(), row.begin() + std::min(second.length + 2, kLastIndex + 1), 0);
     int row_length = 0;
     for (int j = 1; j <= second.length; ++j) {
       row[j] += first.digit[i] * second.digit[j];
-      const int carried = row[j] / 10 * 10;
-      Cell(row, j + 1) += carried / 10;
-      row[j] -= carried;
+      const int carried = row[j] / 10;
+      Cell(row, j + 1) += carried;
+      row[j] -= carried * 10;
       row_length = row[j + 1] != 0 ? j + 1 : j;
     }
     for (int j = 1; j <= row_length; ++j) {
@@ -154,15 +155,19 @@ void Normalise_Size(Whole& a) {
   while (a.size > 0 && a.digit[a.size] == 0) --a.size;
 }
 
-// a - b, for a not below b.
-Whole Minus(Whole a, const Whole& b) {
+// a - b in place, for a not below b.
+void Take_Away(Whole& a, const Whole& b) {
   int borrow = 0;
-  for (int i = 1; i <= a.size; ++i) {
-    int d = a.digit[i] - borrow - (i <= b.size ? b.digit[i] : 0);
+  for (int i = 1; i <= a.size && (i <= b.size || borrow != 0); ++i) {
+    const int d = a.digit[i] - borrow - (i <= b.size ? b.digit[i] : 0);
     borrow = d < 0 ? 1 : 0;
     a.digit[i] = d + 10 * borrow;
   }
   Normalise_Size(a);
+}
+
+Whole Minus(Whole a, const Whole& b) {
+  Take_Away(a, b);
   return a;
 }
 
@@ -226,12 +231,14 @@ Division Long_Division(const Whole& dividend, const Whole& divisor) {
   Division result;
   Whole& rest = result.remainder;
   for (int i = dividend.size; i >= 1; --i) {
-    rest = Shifted(rest, 1);
+    // Bring down the next digit.
+    for (int k = rest.size; k >= 1; --k) rest.digit[k + 1] = rest.digit[k];
     rest.digit[1] = dividend.digit[i];
-    if (rest.size == 0 && rest.digit[1] != 0) rest.size = 1;
+    rest.size += 1;
+    Normalise_Size(rest);
     int q = 0;
     while (Order(rest, divisor) >= 0) {
-      rest = Minus(rest, divisor);
+      Take_Away(rest, divisor);
       ++q;
     }
     result.quotient.digit[i] = q;
@@ -312,14 +319,23 @@ std::string Digits_Text(const Digit_Array& result, int top) {
     }
   }
   std::string text;
-  for (int i = top; i >= 1; --i) text += std::to_string(result[i]);
+  text.reserve(static_cast<std::size_t>(top));
+  for (int i = top; i >= 1; --i) {
+    const int cell = result[i];
+    if (cell >= 0 && cell <= 9) {
+      text += static_cast<char>('0' + cell);
+    } else {
+      text += std::to_string(cell);  // a cell still holding a pending carry shows as its number
+    }
+  }
   return text;
 }
 
-std::string Without_Leading_Zeros(const std::string& text) {
+std::string Without_Leading_Zeros(std::string text) {
   const std::size_t first = text.find_first_not_of('0');
   if (first == std::string::npos) return text.empty() ? text : "0";
-  return text.substr(first);
+  text.erase(0, first);
+  return text;
 }
 
 std::string Answer(const std::string& Operation, const Operand& first, const Operand& second) {
