@@ -173,7 +173,7 @@ const Vocabulary& Calendar_Words() {
 
 // Month numbers wrap as the calendar's vocabulary lets them (0 is December, 13 January), so that
 // a step past either end of the year stays a month.
-int Month_In_Year(int month) { return ((month - 1) % 12 + 12) % 12 + 1; }
+int Month_In_Year(int month) { return static_cast<int>(((static_cast<std::int64_t>(month) - 1) % 12 + 12) % 12 + 1); }
 
 int Month_Length(int month, bool leap) {
   const Vocabulary& words = Calendar_Words();

@@ -446,6 +446,11 @@ TEST(HolidayDelivery, TheLineFillsNoNumberWithZeros) {
   EXPECT_EQ(Holiday_List_Line(6, 2003, {3, 17, 2}), "St. Patricks' Day, Monday, March 17, 2003");
 }
 
+TEST(HolidayDelivery, ALineOfAnyDateGivenIsMadeWithoutHarm) {
+  EXPECT_EQ(Holiday_List_Line(9, 15675, {4, 49, 1}), "Easter, Sunday, April 49, 15675");
+  EXPECT_EQ(Holiday_List_Line(99, 2003, {INT_MIN, INT_MAX, INT_MIN}), ", , April 2147483647, 2003");
+}
+
 TEST(HolidayDelivery, TheCalendarGetsNameMonthNameAndDate) {
   Holiday_Table_Collector table;
   Holiday_List_Collector list;
