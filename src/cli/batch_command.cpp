@@ -1,0 +1,46 @@
+// batch: one command a line from standard input, each answer (or error line) followed by one
+// empty line on standard output, to the end of the input.
+#include <iostream>
+#include <string>
+
+#include "cli/command_error.h"
+#include "cli/commands.h"
+#include "cli/shell_words.h"
+
+namespace orrivane::cli {
+
+namespace {
+
+// The answers wait in the output buffer while more input is at hand, and go out before the
+// tool would sit waiting for a line: fast on a file, prompt in a dialogue through pipes.
+bool Next_Line(std::istream& in, Output& out, std::string& line) {
+  if (in.rdbuf()->in_avail() <= 0) out.Flush();
+  if (!std::getline(in, line)) return false;
+  if (!line.empty() && line.back() == '\r') line.pop_back();  // a line ended by CR LF
+  return true;
+}
+
+void Run_Line(const std::string& line, Command_Context& context) {
+  const std::optional<std::vector<std::string>> words = Split_Shell_Words(line);
+  std::optional<std::string> error;
+  if (!words) {
+    error = Error_Line("Usage", "the line ends inside quotes or after a backslash.");
+  } else if (words->empty()) {
+    return;  // nothing but blanks or a comment
+  } else {
+    error = Run_Command(*words, context);
+  }
+  if (error) context.out.Line(*error);
+  context.out.Line("");
+}
+
+}  // namespace
+
+void Run_Batch(const Arguments&, Command_Context& context) {
+  if (context.in_batch) throw Command_Error("Usage", "batch does not run inside batch.");
+  Command_Context batch{context.out, true};
+  std::string line;
+  while (Next_Line(std::cin, batch.out, line)) Run_Line(line, batch);
+}
+
+}  // namespace orrivane::cli

@@ -1,0 +1,73 @@
+// weekday, month and convert: the calendar engine's weekday, month layout and style conversion,
+// with the checks and messages of the windows that ask for them.
+#include <string>
+
+#include "calendar/select_month_check.h"
+#include "cli/calendar_arguments.h"
+#include "cli/command_error.h"
+#include "cli/commands.h"
+#include "core/value.h"
+#include "engine/calendar_engine.h"
+
+namespace orrivane::cli {
+
+namespace {
+
+constexpr int kColumns = 7;
+constexpr char kWeekdayHeading[] = " S  M  T  W  T  F  S";
+
+// One row of the grid: each caption right-aligned in two characters, one blank between cells.
+std::string Grid_Row(const engine::MonthGrid& grid, int row) {
+  std::string line;
+  for (int column = 0; column < kColumns; ++column) {
+    const std::string& caption = grid[static_cast<std::size_t>(row * kColumns + column)].caption;
+    if (column > 0) line.push_back(' ');
+    if (caption.size() < 2) line.append(2 - caption.size(), ' ');
+    line.append(caption);
+  }
+  return line;
+}
+
+}  // namespace
+
+// The weekday of a date as the main grid's Calendarr decides it, its message when it refuses.
+void Run_Weekday(const Arguments& arguments, Command_Context& context) {
+  const std::string month = Required_Month_Name(arguments.operands[0]);
+  const std::int64_t date = Date_Of(arguments.operands[1]);
+  const std::int64_t year = Year_Of(arguments.operands[2]);
+  const engine::CalendarrDate when = engine::Calendarr_Date_From_Year(month, date, year, Style_Of(arguments));
+  const engine::CalendarrResult result = engine::Calendarr_Compute(when);
+  if (result.error_code != 0) throw Command_Error(result.message);
+  context.out.Line(engine::Define_Weekday(result.weekday, "Get Weekday Name").text());
+}
+
+// The month as "View Month On Calendar" draws it, after that window's checks. An empty month is
+// a month not chosen; the year is the text of the year box.
+void Run_Month(const Arguments& arguments, Command_Context& context) {
+  const std::string& month_text = arguments.operands[0];
+  const std::string month = month_text.empty() ? std::string() : Required_Month_Name(month_text);
+  const std::string& year_text = arguments.operands[1];
+  const engine::CalendarStyle style = Style_Of(arguments);
+  const int status = calendar::Select_Month_Entry_Status(month, year_text, engine::Calendar_Style_Name(style));
+  if (status != calendar::kSelectMonthAccepted) throw Command_Error(calendar::Select_Month_Entry_Message(status));
+
+  const std::int64_t year = Value(year_text).whole();
+  const engine::MonthGrid grid = engine::Select_Month_Grid(month, year, style);
+  context.out.Line(month + " " + std::to_string(year));
+  context.out.Line(kWeekdayHeading);
+  for (int row = 0; row < engine::kGridCells / kColumns; ++row) context.out.Line(Grid_Row(grid, row));
+}
+
+// The date in the other style and the days between, as the Date Conversion window shows them.
+void Run_Convert(const Arguments& arguments, Command_Context& context) {
+  engine::ConvertDate date;
+  date.month = Required_Month_Name(arguments.operands[0]);
+  date.date = Date_Of(arguments.operands[1]);
+  date.year = Year_Of(arguments.operands[2]);
+  date.style = Style_Of(arguments);
+  const engine::ConvertResult result = engine::Convert_Compute(date);
+  if (result.error_code != 0) throw Command_Error(result.message);
+  context.out.Line(result.lblDate2 + "\t" + result.lblDifference);
+}
+
+}  // namespace orrivane::cli

@@ -1,0 +1,155 @@
+#include "cli/commands.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+#include "cli/command_error.h"
+#include "core/runtime_failure.h"
+
+namespace orrivane::cli {
+
+namespace {
+
+struct Option_Spec {
+  std::string_view name;
+  bool takes_value;
+};
+
+using Command_Handler = void (*)(const Arguments&, Command_Context&);
+
+struct Command_Spec {
+  std::string_view name;
+  std::string_view usage;  // after "orrivane-cal "; empty for a command told in another's line
+  std::span<const Option_Spec> options;
+  std::size_t least_operands;
+  std::size_t most_operands;
+  Command_Handler run;
+};
+
+constexpr Option_Spec kStyleOption[] = {{"--julian", false}};
+constexpr Option_Spec kHolidayOptions[] = {{"--holiday", true}};
+constexpr Option_Spec kElapsedOptions[] = {{"--julian", false}, {"--total", false}, {"--units", true}};
+
+constexpr std::array<Command_Spec, 9> kCommands{{
+    // name        usage                                                           options          operands  handler
+    {"weekday",   "weekday  [--julian] MONTH DAY YEAR",                           kStyleOption,    3, 3, Run_Weekday},
+    {"month",     "month    [--julian] MONTH YEAR",                               kStyleOption,    2, 2, Run_Month},
+    {"convert",   "convert  [--julian] MONTH DAY YEAR",                           kStyleOption,    3, 3, Run_Convert},
+    {"holidays",  "holidays [--holiday NAME] YEAR [TO_YEAR]",                     kHolidayOptions, 1, 2, Run_Holidays},
+    {"elapsed",   "elapsed  [--julian] [--total | --units UNITS] FROM TO",        kElapsedOptions, 2, 2, Run_Elapsed},
+    {"calc",      "calc     OPERATION A B",                                       {},              3, 3, Run_Calc},
+    {"batch",     "batch",                                                        {},              0, 0, Run_Batch},
+    {"--help",    "--help | --version",                                           {},              0, 0, Run_Help},
+    {"--version", "",                                                             {},              0, 0, Run_Version},
+}};
+
+constexpr std::string_view kProgram = "orrivane-cal";
+
+const Command_Spec* Find_Command(std::string_view name) {
+  const auto found = std::find_if(kCommands.begin(), kCommands.end(),
+                                  [name](const Command_Spec& command) { return command.name == name; });
+  return found == kCommands.end() ? nullptr : &*found;
+}
+
+[[noreturn]] void Usage_Error(const Command_Spec& command) {
+  throw Command_Error("Usage", std::string(kProgram) + " " + std::string(command.usage));
+}
+
+const Option_Spec* Find_Option(const Command_Spec& command, std::string_view name) {
+  const auto found = std::find_if(command.options.begin(), command.options.end(),
+                                  [name](const Option_Spec& option) { return option.name == name; });
+  return found == command.options.end() ? nullptr : &*found;
+}
+
+// Options are the words that name one of the command's options ("--units ymd" or
+// "--units=ymd"), up to a "--"; every other word is an operand, so that "-5" is a year.
+Arguments Parse_Arguments(const Command_Spec& command, std::span<const std::string> words) {
+  Arguments arguments;
+  bool options_end = false;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const std::string& word = words[i];
+    if (options_end || word.rfind("--", 0) != 0) {
+      arguments.operands.push_back(word);
+      continue;
+    }
+    if (word == "--") {
+      options_end = true;
+      continue;
+    }
+    const std::size_t equals = word.find('=');
+    const std::string name = word.substr(0, equals);
+    const Option_Spec* option = Find_Option(command, name);
+    if (option == nullptr) Usage_Error(command);
+    std::string value;
+    if (equals != std::string::npos) {
+      if (!option->takes_value) Usage_Error(command);
+      value = word.substr(equals + 1);
+    } else if (option->takes_value) {
+      if (i + 1 >= words.size()) Usage_Error(command);
+      value = words[++i];
+    }
+    arguments.options.emplace_back(name, std::move(value));
+  }
+  if (arguments.operands.size() < command.least_operands || arguments.operands.size() > command.most_operands) {
+    Usage_Error(command);
+  }
+  return arguments;
+}
+
+void Run_Parsed(const std::vector<std::string>& words, Command_Context& context) {
+  if (words.empty()) {
+    throw Command_Error("Usage", std::string(kProgram) + " COMMAND ...; " + std::string(kProgram) +
+                                     " --help lists the commands.");
+  }
+  const Command_Spec* command = Find_Command(words.front());
+  if (command == nullptr) {
+    throw Command_Error("Unknown Command", "\"" + words.front() + "\" is no command; " + std::string(kProgram) +
+                                               " --help lists the commands.");
+  }
+  const Arguments arguments = Parse_Arguments(*command, std::span<const std::string>(words).subspan(1));
+  command->run(arguments, context);
+}
+
+}  // namespace
+
+bool Arguments::Has(std::string_view option) const { return Value_Of(option) != nullptr; }
+
+const std::string* Arguments::Value_Of(std::string_view option) const {
+  for (auto it = options.rbegin(); it != options.rend(); ++it) {
+    if (it->first == option) return &it->second;
+  }
+  return nullptr;
+}
+
+std::optional<std::string> Run_Command(const std::vector<std::string>& words, Command_Context& context) {
+  try {
+    Run_Parsed(words, context);
+    return std::nullopt;
+  } catch (const Command_Error& error) {
+    return Error_Line(error.title(), error.text());
+  } catch (const RuntimeFailure& failure) {
+    // An unhandled failure of the program, told as its message box tells it.
+    return Error_Line("Run-time error '" + std::to_string(failure.number()) + "'", failure.description());
+  } catch (const std::exception& failure) {
+    return Error_Line("Error", failure.what());
+  }
+}
+
+std::string Usage_Of(std::string_view command) {
+  const Command_Spec* found = Find_Command(command);
+  return found == nullptr ? std::string() : std::string(kProgram) + " " + std::string(found->usage);
+}
+
+void Run_Help(const Arguments&, Command_Context& context) {
+  context.out.Line("Usage:");
+  for (const Command_Spec& command : kCommands) {
+    if (!command.usage.empty()) context.out.Line("  " + std::string(kProgram) + " " + std::string(command.usage));
+  }
+}
+
+void Run_Version(const Arguments&, Command_Context& context) {
+  context.out.Line(std::string(kProgram) + " " + ORRIVANE_VERSION);
+}
+
+}  // namespace orrivane::cli
