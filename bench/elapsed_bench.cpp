@@ -60,9 +60,7 @@ void BM_Multiply_100_Digit_Product(benchmark::State& state) {
 }
 BENCHMARK(BM_Multiply_100_Digit_Product);
 
-void BM_Multiply_99_Digits_By_1(benchmark::State& state) {
-  Operation(state, "Multiply", Digits(98, 3, "1"), "7");
-}
+void BM_Multiply_99_Digits_By_1(benchmark::State& state) { Operation(state, "Multiply", Digits(98, 3, "1"), "7"); }
 BENCHMARK(BM_Multiply_99_Digits_By_1);
 
 // A 99-digit quotient, which the repeated-addition method would need some 10^82 rounds for.

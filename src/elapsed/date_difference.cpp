@@ -225,9 +225,9 @@ constexpr std::array<Remaining_Row, kTimeUnits> kRemainingRows{{
       "Total Years In Minutes"}},
 }};
 
-constexpr std::array<const char*, kTimeUnits> kTotalRows{
-    "Total Years In Years", "Total Months In Months", "Total Days In Days", "Total Hours In Hours",
-    "Total Minutes In Minutes"};
+constexpr std::array<const char*, kTimeUnits> kTotalRows{"Total Years In Years", "Total Months In Months",
+                                                         "Total Days In Days", "Total Hours In Hours",
+                                                         "Total Minutes In Minutes"};
 
 std::string Answer_Text(const Time_Difference& pieces, const char* name) {
   return Time_Difference_Answer(pieces, name).text();

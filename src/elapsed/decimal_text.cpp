@@ -119,10 +119,10 @@ std::string Compare(const Operand& first, const Operand& second) {
 
 // ---- Long division ------------------------------------------------------------------------
 //
-// The program divides by adding the multiples V x 10^p, p from 16 down to 0, to a running
-// product for as long as each fits, which takes as many rounds as the quotient has units of
-// 10^16. Long division gives the same quotient at once; what it must also give is the
-// program's failures, which come from the sums it forms on the way (see
+// Division is defined by repeated addition: the multiples V x 10^p, p from 16 down to 0, are
+// added to a running product for as long as each fits, which takes as many rounds as the
+// quotient has units of 10^16. Long division gives the same quotient at once; what it must also
+// give is the failures of repeated addition, which come from the sums formed on the way (see
 // Widest_Sum_Overflows).
 
 // A whole number on a working array, with the index of its highest non-zero digit (0 for zero).
@@ -171,7 +171,7 @@ Whole Minus(Whole a, const Whole& b) {
   return a;
 }
 
-// Whether a + b reaches 10^100, where the program's Add fails.
+// Whether a + b reaches 10^100, where Add fails.
 bool Sum_Reaches_101_Digits(const Whole& a, const Whole& b) {
   int carry = 0;
   for (int i = 1; i <= std::max(a.size, b.size); ++i) {
@@ -251,8 +251,8 @@ Division Long_Division(const Whole& dividend, const Whole& divisor) {
 // The multiples V x 10^p run to p = 16.
 constexpr int kHighestPower = 16;
 
-// How often the program takes the multiple at the level where an exact division first leaves
-// a remainder equal to a whole number of that multiple: the digit of the quotient at its
+// How often repeated addition takes the multiple at the level where an exact division first
+// leaves a remainder equal to a whole number of that multiple: the digit of the quotient at its
 // lowest non-zero place, or the quotient's units of 10^16 when that place is 16 or higher.
 Whole Count_At_Tie_Level(const Whole& quotient) {
   int lowest = 1;
@@ -271,8 +271,8 @@ Whole Count_At_Tie_Level(const Whole& quotient) {
 
 bool Is_At_Least_Two(const Whole& a) { return a.size > 1 || (a.size == 1 && a.digit[1] >= 2); }
 
-// The program's passes form sums of the running product S with V and with the multiples
-// T = V x 10^p. With Q the quotient and r the remainder, the widest of them is:
+// The passes of repeated addition form sums of the running product S with V and with the
+// multiples T = V x 10^p. With Q the quotient and r the remainder, the widest of them is:
 //  - Q = 0: T at p = 16 (already known to fit when the table was formed);
 //  - r = 0 and the level where the remainder is first a whole number of multiples takes two or
 //    more: that level stops one multiple short and a second pass starts from S = D - V, whose
@@ -299,7 +299,7 @@ bool Widest_Sum_Overflows(const Whole& dividend, const Whole& divisor, const Div
 Division Divide(const Operand& first, const Operand& second) {
   const Whole dividend = Whole_Of(first.digit);
   const Whole divisor = Whole_Of(second.digit);
-  // The program's passes would never end: S never grows.
+  // Repeated addition would never end: S never grows.
   if (divisor.size == 0) throw RuntimeFailure(kDivisionByZero);
   // The table of multiples is formed by Multiply, and V x 10^16 must stay within 100 digits.
   if (divisor.size + kHighestPower > kLastIndex) throw RuntimeFailure(kSubscriptOutOfRange);

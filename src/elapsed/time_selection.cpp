@@ -26,7 +26,7 @@ void Fill_Pair(std::string& coarse, std::string& fine, const std::string& now_co
 Time_Selection Selection_At(const std::string& Month_Name, long long Date, long long Year, long long Hour,
                             long long Minute) {
   const long long century = Floor_Division(Year, 100);
-  return {Month_Name,           std::to_string(Date), std::to_string(century), std::to_string(Year - century * 100),
+  return {Month_Name,           std::to_string(Date),  std::to_string(century), std::to_string(Year - century * 100),
           std::to_string(Hour), std::to_string(Minute)};
 }
 

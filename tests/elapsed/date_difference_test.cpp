@@ -94,15 +94,16 @@ Reference Reference_Span(const std::string& style, Moment a, Moment b) {
   const Moment& e = b;
   Reference r{};
   r.total_minutes = (Day_Number(l.Four_Digit_Year, l.Month_Number, l.Date, style) -
-                     Day_Number(e.Four_Digit_Year, e.Month_Number, e.Date, style)) * 1440 +
+                     Day_Number(e.Four_Digit_Year, e.Month_Number, e.Date, style)) *
+                        1440 +
                     (l.Hour - e.Hour) * 60 + (l.Minute - e.Minute);
   r.total_hours = r.total_minutes / 60;
   r.minutes = r.total_minutes % 60;
   r.total_days = r.total_hours / 24;
   r.hours = r.total_hours % 24;
   const bool short_of_a_month = std::tie(l.Date, l.Hour, l.Minute) < std::tie(e.Date, e.Hour, e.Minute);
-  r.total_months = (l.Four_Digit_Year - e.Four_Digit_Year) * 12 + (l.Month_Number - e.Month_Number) -
-                   (short_of_a_month ? 1 : 0);
+  r.total_months =
+      (l.Four_Digit_Year - e.Four_Digit_Year) * 12 + (l.Month_Number - e.Month_Number) - (short_of_a_month ? 1 : 0);
   r.years = r.total_months / 12;
   r.months = r.total_months % 12;
   const long long anniversary_year = e.Four_Digit_Year + r.years;
@@ -287,8 +288,7 @@ TEST(Date_Difference, TheHelpExampleOfTheTwoDisplayModes) {
   // "1 year or 13 months or 397 days or 9529 hours or 571,741 minutes"
   const Moment earlier = At(2001, 1, 1, 0, 0);
   const Moment later = At(2002, 2, 2, 1, 1);
-  EXPECT_EQ(Rows("Gregorian", earlier, later, Display_Option::Total),
-            (Time_Rows{"1", "13", "397", "9529", "571741"}));
+  EXPECT_EQ(Rows("Gregorian", earlier, later, Display_Option::Total), (Time_Rows{"1", "13", "397", "9529", "571741"}));
   EXPECT_EQ(Rows("Gregorian", earlier, later, Display_Option::Remaining), (Time_Rows{"1", "1", "1", "1", "1"}));
 }
 
@@ -342,9 +342,11 @@ TEST(Date_Difference, FieldsOutsideTheirRangesFailInsteadOfWalkingForever) {
             kInvalidProcedureCall);
   EXPECT_EQ(Failure_Of([] { Date_Difference("Total Days In Days", "Gregorian", At(2001, 1, 1, 24), At(2001, 1, 1)); }),
             kInvalidProcedureCall);
-  EXPECT_EQ(Failure_Of([] { Date_Difference("Total Days In Days", "Gregorian", At(2001, 1, 1, 0, -1), At(2001, 1, 1)); }),
-            kInvalidProcedureCall);
-  EXPECT_EQ(Failure_Of([] { Date_Difference("Total Days In Days", "Gregorian", At(2'000'000'000'000LL, 1, 1), At(0, 1, 1)); }),
+  EXPECT_EQ(
+      Failure_Of([] { Date_Difference("Total Days In Days", "Gregorian", At(2001, 1, 1, 0, -1), At(2001, 1, 1)); }),
+      kInvalidProcedureCall);
+  EXPECT_EQ(Failure_Of(
+                [] { Date_Difference("Total Days In Days", "Gregorian", At(2'000'000'000'000LL, 1, 1), At(0, 1, 1)); }),
             kOverflow);
   EXPECT_EQ(Answer("Total Years In Years", "Julian", At(1'000'000'000'000LL, 1, 1), At(-1'000'000'000'000LL, 1, 1)),
             "2000000000000");
@@ -356,7 +358,9 @@ class Moments {
  public:
   explicit Moments(unsigned seed) : random_(seed) {}
 
-  long long Between(long long low, long long high) { return std::uniform_int_distribution<long long>(low, high)(random_); }
+  long long Between(long long low, long long high) {
+    return std::uniform_int_distribution<long long>(low, high)(random_);
+  }
 
   Moment Any(const std::string& style, long long first_year, long long last_year) {
     const long long year = Between(first_year, last_year);

@@ -58,8 +58,9 @@ TEST(Time_Selection, NothingChosenMeasuresFromNowToNow) {
   Fill_In_Blanks(one, kNow);
   Fill_In_Blanks(two, kNow);
   EXPECT_EQ(Code(one, two), 0);
-  const std::optional<Time_Rows> rows = Display_Time_Difference(
-      "Gregorian", Selected_Moment(one), Selected_Moment(two), Display_Option::Remaining, {true, true, true, true, true});
+  const std::optional<Time_Rows> rows =
+      Display_Time_Difference("Gregorian", Selected_Moment(one), Selected_Moment(two), Display_Option::Remaining,
+                              {true, true, true, true, true});
   ASSERT_TRUE(rows.has_value());
   for (const std::string& row : *rows) EXPECT_EQ(row, "0");
 }
@@ -139,10 +140,8 @@ TEST(Time_Selection, OctoberFourteenth1582IsTooEarlyOnlyInTheGregorianStyle) {
   EXPECT_EQ(Code(kGood, Chosen("September", "30", "15", "82"), "Gregorian"), 16);
   EXPECT_EQ(Code(Chosen("May", "1", "0", "00"), Chosen("December", "31", "15", "81"), "Gregorian"), 17);
   EXPECT_EQ(Message(15).Title, "Invalid Gregorian Date");
-  EXPECT_EQ(Message(15).Text,
-            "Please be sure the date for 'Time 1' falls on or after October 15, 1582");
-  EXPECT_EQ(Message(16).Text,
-            "Please be sure the date for 'Time 2' falls on or after October 15, 1582");
+  EXPECT_EQ(Message(15).Text, "Please be sure the date for 'Time 1' falls on or after October 15, 1582");
+  EXPECT_EQ(Message(16).Text, "Please be sure the date for 'Time 2' falls on or after October 15, 1582");
   EXPECT_EQ(Message(17).Title, "Invalid Dates");
   EXPECT_EQ(Message(17).Text, "Gregorian dates cannot be before October 15, 1582");
 }
@@ -152,10 +151,8 @@ TEST(Time_Selection, CenturyTenThousandIsTheLast) {
   EXPECT_EQ(Code(kGood, Chosen("June", "15", "10001", "01")), 13);
   EXPECT_EQ(Code(Chosen("December", "31", "10000", "99"), kGood), 0);
   EXPECT_EQ(Code(Chosen("June", "15", "99999999999999999999999", "01"), kGood), 12);
-  EXPECT_EQ(Message(12).Text,
-            "Please make sure the year value for 'Time 1' is a value from 0 to 10000");
-  EXPECT_EQ(Message(13).Text,
-            "Please make sure the year value for 'Time 2' is a value from 0 to 10000");
+  EXPECT_EQ(Message(12).Text, "Please make sure the year value for 'Time 1' is a value from 0 to 10000");
+  EXPECT_EQ(Message(13).Text, "Please make sure the year value for 'Time 2' is a value from 0 to 10000");
 }
 
 TEST(Time_Selection, MissingDatesComeBeforeBadNumbersAndThoseBeforeEarlyDates) {
@@ -165,9 +162,7 @@ TEST(Time_Selection, MissingDatesComeBeforeBadNumbersAndThoseBeforeEarlyDates) {
   EXPECT_EQ(Code(Chosen("June", "", "20", "01"), Chosen("June", "31", "20", "01")), 1);
 }
 
-TEST(Time_Selection, AnEmptyCenturyCountsAsNotNumeric) {
-  EXPECT_EQ(Code(Chosen("June", "15", "", "01"), kGood), 10);
-}
+TEST(Time_Selection, AnEmptyCenturyCountsAsNotNumeric) { EXPECT_EQ(Code(Chosen("June", "15", "", "01"), kGood), 10); }
 
 TEST(Time_Selection, ANonNumericYearInCenturyFailsWhenUsed) {
   EXPECT_EQ(Failure_Of([] { Check_Time_Selections(Chosen("June", "15", "20", "ab"), kGood, "Gregorian"); }),
