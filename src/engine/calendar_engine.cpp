@@ -1,8 +1,13 @@
 #include "engine/calendar_engine.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string_view>
+#include <utility>
+
+#include "core/runtime_failure.h"
+#include "core/text.h"
 
 namespace orrivane::engine {
 
@@ -141,6 +146,296 @@ Value Is_It_A_Valid_Date(const Value& Month_, const Value& Date_, const Value& Y
       Define_Month(Month_, Is_It_A_Leap_Year(year, CalStyle) ? "Get Max Days Leap Year" : "Get Max Days");
   if (asks_length) return length;
   return (date < 1 || date > length.number()) ? 0 : 1;
+}
+
+// ---- Helpers of the weekday, layout and conversion -------------------------------------------
+
+namespace {
+
+// Floor division of whole numbers, also of negative ones (b > 0).
+constexpr std::int64_t Floor_Div(std::int64_t a, std::int64_t b) {
+  const std::int64_t q = a / b;
+  return (a % b != 0 && a < 0) ? q - 1 : q;
+}
+static_assert(Floor_Div(-1, 4) == -1 && Floor_Div(-4, 4) == -1 && Floor_Div(7, 4) == 1);
+
+// The magnitude up to which the inputs of the weekday arithmetic are taken: the year is then
+// at most about 10^17 and every intermediate value about 1.3 * 10^17, far inside 64 bits.
+constexpr std::int64_t kLargestInput = 1'000'000'000'000'000;
+
+void Require_Input_Range(std::int64_t value) {
+  if (value > kLargestInput || value < -kLargestInput) throw RuntimeFailure(kOverflow);
+}
+
+std::string Text(std::int64_t number) { return std::to_string(number); }
+
+EngineMessage Gregorian_Start_Message() {
+  return {"Invalid Date", std::string("For the Gregorian Calendar, please make sure the ") + kCarriageReturn +
+                              "date entered is on or after October 15, 1582."};
+}
+
+EngineMessage February_Message(std::int64_t year) {
+  return {"Invalid Date", "February of " + Text(year) + " only has 28 days in it."};
+}
+
+EngineMessage No_Such_Day_Message(const std::string& month, std::int64_t date) {
+  return {"Invalid Date", month + " does not have " + Text(date) + " days in it!"};
+}
+
+}  // namespace
+
+std::string Calendar_Style_Name(CalendarStyle style) {
+  return style == CalendarStyle::Julian ? "Julian" : "Gregorian";
+}
+
+std::string Calendar_Style_Label(CalendarStyle style) { return style == CalendarStyle::Julian ? "O.S." : "N.S."; }
+
+std::optional<CalendarStyle> Calendar_Style_From_Text(std::string_view text) {
+  if (text == "Gregorian" || text == "Gregorian (New Style)") return CalendarStyle::Gregorian;
+  if (text == "Julian" || text == "Julian (Old Style)") return CalendarStyle::Julian;
+  return std::nullopt;
+}
+
+// ---- The grid of a month ----------------------------------------------------------------------
+
+MonthGrid Draw_Month_Cells(int first_column, int length, int length_before, std::int64_t selected_date) {
+  if (first_column < 1 || first_column > 7) throw RuntimeFailure(kSubscriptOutOfRange);
+  MonthGrid grid;
+  auto put = [&grid](int cell, std::int64_t caption, std::uint32_t colour) {
+    if (cell < 0 || cell >= kGridCells) throw RuntimeFailure(kSubscriptOutOfRange);
+    grid[static_cast<std::size_t>(cell)] = {Text(caption), colour};
+  };
+  // The last days of the month before, up to the column before the first.
+  for (int k = 1; k <= first_column - 1; ++k) put(k - 1, (length_before - (first_column - 1)) + k, kGreyTextColour);
+  // The month's own days, the selected one red.
+  for (int d = 1; d <= length; ++d) {
+    put((first_column - 1) + (d - 1), d, d == selected_date ? kRedColour : kButtonTextColour);
+  }
+  // The first days of the month after, to the last cell.
+  int next = 1;
+  for (int cell = (first_column - 1) + length; cell < kGridCells; ++cell) put(cell, next++, kGreyTextColour);
+  return grid;
+}
+
+// ---- Weekday, validity and layout of a date (Calendarr) --------------------------------------
+
+namespace {
+
+// Calendarr's own month table: the weekday of the first in a common year that starts on a
+// Sunday, the days with February counted as 29, "after leap date", the days of the month before.
+struct CalendarrRow {
+  const char* month;
+  int base_weekday;
+  int days;
+  int after_leap_date;
+  int days_before;
+};
+
+constexpr std::array<CalendarrRow, 12> kCalendarrMonths{{
+    {"January", 1, 31, 0, 31},
+    {"February", 4, 29, 0, 31},
+    {"March", 4, 31, 1, 29},
+    {"April", 7, 30, 1, 31},
+    {"May", 2, 31, 1, 30},
+    {"June", 5, 30, 1, 31},
+    {"July", 7, 31, 1, 30},
+    {"August", 3, 31, 1, 31},
+    {"September", 6, 30, 1, 31},
+    {"October", 1, 31, 1, 30},
+    {"November", 4, 30, 1, 31},
+    {"December", 6, 31, 1, 30},
+}};
+
+// Any other month text: all four columns empty.
+constexpr CalendarrRow kEmptyCalendarrRow{"", 0, 0, 0, 0};
+
+const CalendarrRow& Calendarr_Row(const std::string& month) {
+  for (const CalendarrRow& row : kCalendarrMonths) {
+    if (month == row.month) return row;
+  }
+  return kEmptyCalendarrRow;
+}
+
+struct WeekdayAndLeap {
+  int weekday;
+  bool leap_flag;
+};
+
+// The weekday steps from the base year 2000, floors being mathematical and the modulo
+// truncating. For |year| <= 10^17 every value below stays within about +-1.3 * 10^17.
+WeekdayAndLeap Calendarr_Arithmetic(const CalendarrDate& date) {
+  Require_Input_Range(date.century);
+  Require_Input_Range(date.two_digit_year);
+  Require_Input_Range(date.date);
+  const CalendarrRow& row = Calendarr_Row(date.month);
+  const std::int64_t year = date.year();
+  const std::int64_t century = date.century;
+  const bool julian = date.style == CalendarStyle::Julian;
+
+  // 1. Year offset; negative after 2000, as intended.
+  const std::int64_t year_offset = (2000 - year + 1) + Floor_Div(2000 - year, 4);
+  // 2. The Gregorian common century years since 2000.
+  std::int64_t century_correction = 0;
+  if (century < 20) {
+    century_correction = (century - 19) + Floor_Div((20 - century) - 1, 4);
+  } else if (century > 20) {
+    century_correction = (century - 20) - Floor_Div(century - 20, 4);
+  }
+  // 3. The first day of the date's seven-day block: 1, 8, 15, 22 or 29.
+  const std::int64_t week_start = Floor_Div(date.date - 1, 7) * 7 + 1;
+  // 4. Truncating modulo: -6 to 6.
+  std::int64_t shift = (year_offset + ((week_start + 7) - date.date) + century_correction) % 7;
+  // 5. Three separate tests, each setting the leap flag.
+  bool leap_flag = false;
+  if (year % 400 == 0) {
+    if (row.after_leap_date == 1) shift -= 1;
+    leap_flag = true;
+  }
+  if (year % 100 == 0 && year % 400 != 0) {
+    shift -= 1;
+    leap_flag = julian;
+  }
+  if (year % 4 == 0 && year % 100 != 0) {
+    if (row.after_leap_date == 1) shift -= 1;
+    leap_flag = true;
+  }
+  // 6. The days by which the two calendars stand apart in the century.
+  if (julian) {
+    shift -= (century - 2) - Floor_Div(century, 4);
+    if (year % 100 == 0 && year % 400 != 0 && row.after_leap_date == 0) shift += 1;
+  }
+  // 7. A result of 0 means 7.
+  std::int64_t weekday = ((row.base_weekday + 7) - shift) % 7;
+  if (weekday == 0) weekday = 7;
+  return {static_cast<int>(weekday), leap_flag};
+}
+
+}  // namespace
+
+CalendarrDate Calendarr_Date_From_Year(std::string month, std::int64_t date, std::int64_t year, CalendarStyle style) {
+  return {std::move(month), date, year / 100, year % 100, style};
+}
+
+CalendarrDate Calendarr_Date_From_System_Date(std::string_view system_date) {
+  using namespace text;
+  const std::int64_t year = Value(Right(system_date, 4)).whole();
+  std::string month = Left(system_date, 2);
+  if (Mid(month, 2, 1) == "/") month = Left(month, 1);
+  std::string day = Right(Left(system_date, Len(system_date) - 5), 2);
+  if (Left(day, 1) == "/") day = Right(day, 1);
+  return Calendarr_Date_From_Year(Numeric_To_Text_Month(Value(month)), Value(day).whole(), year,
+                                  CalendarStyle::Gregorian);
+}
+
+int Calendarr_Weekday(const CalendarrDate& date) { return Calendarr_Arithmetic(date).weekday; }
+
+EngineMessage Calendarr_Message(int error_code, const CalendarrDate& date) {
+  switch (error_code) {
+    case 1: return Gregorian_Start_Message();
+    case 2: return February_Message(date.year());
+    case 3: return No_Such_Day_Message(date.month, date.date);
+    default: return {};
+  }
+}
+
+CalendarrResult Calendarr_Compute(const CalendarrDate& date) {
+  const WeekdayAndLeap computed = Calendarr_Arithmetic(date);
+  const CalendarrRow& row = Calendarr_Row(date.month);
+  const std::int64_t year = date.year();
+  CalendarrResult result;
+  result.leap_flag = computed.leap_flag;
+
+  // 1 and 2: before 15 October 1582 the Gregorian calendar does not exist; the Julian one has
+  // no lower limit, so that its failure is taken back at once.
+  auto fail_before_gregorian = [&] {
+    result.valid = false;
+    result.error_code = 1;
+    if (date.style == CalendarStyle::Julian) {
+      result.valid = true;
+      result.error_code = 0;
+    }
+  };
+  if (year == 1582) {
+    if (date.month == "November" || date.month == "December") {
+    } else if (date.month == "October") {
+      if (date.date < 15) fail_before_gregorian();
+    } else {
+      fail_before_gregorian();
+    }
+  }
+  if (year < 1582) fail_before_gregorian();
+  // 3 and 4: a day the month does not have; code 1 takes precedence.
+  if (date.month == "February" && date.date == 29 && !computed.leap_flag) {
+    result.valid = false;
+    if (result.error_code != 1) result.error_code = 2;
+  } else if (date.date > row.days) {
+    result.valid = false;
+    if (result.error_code != 1) result.error_code = 3;
+  }
+
+  result.weekday = result.valid ? computed.weekday : 0;
+  result.message = Calendarr_Message(result.error_code, date);
+  return result;
+}
+
+std::optional<MonthGrid> Calendarr_Month_Grid(const CalendarrDate& date) {
+  const CalendarrResult result = Calendarr_Compute(date);
+  if (!result.valid) return std::nullopt;
+  const CalendarrRow& row = Calendarr_Row(date.month);
+  // 3. February counts 29 days only in a leap year, for itself and as the month before March.
+  const int length = (row.days == 29 && !result.leap_flag) ? 28 : row.days;
+  const int length_before = (row.days_before == 29 && !result.leap_flag) ? 28 : row.days_before;
+  // 4. The weekday of the first, from the date's weekday and its place in its seven-day block.
+  const std::int64_t week_start = Floor_Div(date.date - 1, 7) * 7 + 1;
+  std::int64_t first_column = ((result.weekday + 7) - (date.date - week_start)) % 7;
+  if (first_column == 0) first_column = 7;
+  return Draw_Month_Cells(static_cast<int>(first_column), length, length_before, date.date);
+}
+
+// ---- Field check of "Find The Weekday Of A Date" ----------------------------------------------
+
+EngineMessage Field_Validation_Message(int status) {
+  switch (status) {
+    case 1: return {"Invalid Calendar Selection", "A calendar style must be selected."};
+    case 2: return {"Invalid Calendar Selection", "That is not a valid entry."};
+    case 3: return {"No Month Selected", "A month must be selected."};
+    case 4: return {"No Year Selected", "A year must be selected."};
+    case 5: return {"No Date Selected", "A date must be selected."};
+    case 6: return {"Invalid Century Entry", "A value from 0 to 1000 must be entered in the Century field."};
+    case 7: return {"Invalid Century Entry", "The Century field must contain only numbers."};
+    case kGeneralFieldStatus: return {"Invalid Field Entries", "Some fields were omitted or contain invalid selections."};
+    default: return {};
+  }
+}
+
+FieldCheckResult Form1_Field_Validation_Check_Status(const FindADateFields& fields) {
+  FieldCheckResult result;
+  auto error = [&result](int status) {
+    result.status = status;
+    ++result.error_count;
+  };
+  if (fields.ComboCalendar.empty()) {
+    error(1);
+  } else if (fields.ComboCalendar != "Gregorian (New Style)" && fields.ComboCalendar != "Julian (Old Style)") {
+    error(2);
+  }
+  if (fields.ComboMonths.empty()) error(3);
+  if (fields.ComboYear.empty()) error(4);
+  if (fields.ComboDate.empty()) error(5);
+  // The century must convert to a number (one too large to hold does not); if not, it is 0.
+  std::optional<double> century;
+  try {
+    century = Parse_Number(fields.ComboCentury);
+  } catch (const RuntimeFailure&) {
+    century.reset();
+  }
+  if (!century) error(6);
+  const double value = century.value_or(0);
+  if (value < 0 || value > 1000) error(6);
+
+  if (result.error_count == 1) result.message = Field_Validation_Message(result.status);
+  if (result.error_count > 1) result.message = Field_Validation_Message(kGeneralFieldStatus);
+  return result;
 }
 
 }  // namespace orrivane::engine

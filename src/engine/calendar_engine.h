@@ -2,7 +2,11 @@
 // The calendar engine: the month and weekday vocabulary, the leap rules, validity of dates, the
 // weekday and the 42-cell layout of a month in either calendar style, and the conversion
 // between the styles. Whole-number arithmetic from the base year 2000, no date type.
+#include <array>
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/value.h"
 
@@ -29,5 +33,123 @@ bool Is_It_A_Leap_Year(const Value& Year, const std::string& CalStyle);
 // 1 if the day exists in that month of that year, else 0; with the verb "Get Max Days" in
 // place of the day, the length of the month. Knows nothing of 1582.
 Value Is_It_A_Valid_Date(const Value& Month_, const Value& Date_, const Value& Year_, const std::string& CalStyle);
+
+// ---- Calendar styles and messages -----------------------------------------------------------
+
+// The two calendar styles. Their texts are "Gregorian" (New Style) and "Julian" (Old Style).
+enum class CalendarStyle { Gregorian, Julian };
+
+// "Gregorian" or "Julian", the text the labels and Is_It_A_Leap_Year take.
+std::string Calendar_Style_Name(CalendarStyle style);
+// "N.S." for Gregorian, "O.S." for Julian.
+std::string Calendar_Style_Label(CalendarStyle style);
+// Reads "Gregorian", "Julian", "Gregorian (New Style)" or "Julian (Old Style)"; anything else
+// (exactly compared, case-sensitive) answers nothing.
+std::optional<CalendarStyle> Calendar_Style_From_Text(std::string_view text);
+
+// The carriage return that breaks the text of a message box in two: "\r" (CR, 13), alone, with
+// no line feed. The messages below embed it as it stands.
+inline constexpr char kCarriageReturn[] = "\r";
+
+// A modal message to show: its title and text (exclamation icon, one OK button). Both empty
+// when there is nothing to show.
+struct EngineMessage {
+  std::string title;
+  std::string text;
+  bool empty() const { return title.empty() && text.empty(); }
+};
+
+// ---- The grid of a month ----------------------------------------------------------------------
+
+// Colours of the grid cells, as the platform encodes them: two system colours and red.
+inline constexpr std::uint32_t kGreyTextColour = 0x80000011;    // days of the neighbouring months
+inline constexpr std::uint32_t kButtonTextColour = 0x80000012;  // days of the month on show
+inline constexpr std::uint32_t kRedColour = 255;                // the selected date
+
+inline constexpr int kGridCells = 42;  // numbered 0 to 41, seven to a row, Sunday first
+
+struct CalendarCell {
+  std::string caption;  // the day number as text
+  std::uint32_t colour = kGreyTextColour;
+};
+using MonthGrid = std::array<CalendarCell, kGridCells>;
+
+// Lays out a month from the weekday of its first (first_column, 1 = Sunday ... 7), its length and
+// the length of the month before: grey days of the month before, the month's own days, then grey
+// 1, 2, 3... to cell 41. The day equal to selected_date is red (pass 0 for no selection). A
+// first_column outside 1 to 7 fails with Subscript out of range (9).
+MonthGrid Draw_Month_Cells(int first_column, int length, int length_before, std::int64_t selected_date);
+
+// ---- Weekday, validity and layout of a date (Calendarr) --------------------------------------
+
+// The date Calendarr works on, as its caller fetched it. The year is century * 100 +
+// two-digit year; the century may be any size (|century| up to 10^15), the two-digit year is
+// meant to be 0 to 99. The month is a full English name: any other text leaves Calendarr's month
+// table empty (base weekday 0, 0 days), so that any date of it fails with code 3.
+struct CalendarrDate {
+  std::string month;
+  std::int64_t date = 0;
+  std::int64_t century = 0;
+  std::int64_t two_digit_year = 0;
+  CalendarStyle style = CalendarStyle::Gregorian;
+  std::int64_t year() const { return century * 100 + two_digit_year; }
+};
+
+// The same date from a whole year, split into century (quotient by 100) and two-digit year.
+CalendarrDate Calendarr_Date_From_Year(std::string month, std::int64_t date, std::int64_t year, CalendarStyle style);
+
+// Today's date from the system date text "3/5/2001" (month/day/year): the year is the last four
+// characters, the month the first one or two, the day the one or two before the last five;
+// style Gregorian. A text that is not of that shape fails as the program's text functions fail.
+CalendarrDate Calendarr_Date_From_System_Date(std::string_view system_date);
+
+struct CalendarrResult {
+  int weekday = 0;         // 1 (Sunday) to 7 (Saturday); 0 when the date is invalid
+  bool leap_flag = false;  // whether the year has a 29 February in the date's style
+  int error_code = 0;      // 0, or 1 (before 15 October 1582, Gregorian), 2 (29 February), 3 (no such day)
+  bool valid = true;       // the validity word: "Yes" (true) or "no"
+  EngineMessage message;   // the box to show for the error code; empty when it is 0
+};
+
+// Weekday, leap flag and validity of the date, with the message of its error code. Only
+// dates after the day count of their month are refused (date 0 or below is not checked).
+CalendarrResult Calendarr_Compute(const CalendarrDate& date);
+
+// The weekday arithmetic alone, from the base year 2000, whatever the validity: for the twelve
+// months and every year from 0 on, the true weekday 1 to 7 of the proleptic calendar of the style.
+int Calendarr_Weekday(const CalendarrDate& date);
+
+// Title and text of Calendarr's error codes 1 to 3 for this date; empty for any other code.
+EngineMessage Calendarr_Message(int error_code, const CalendarrDate& date);
+
+// The 42 cells of the date's month with the date in red, as Calendarr draws them; nothing when
+// the date is invalid (the month on show then stays).
+std::optional<MonthGrid> Calendarr_Month_Grid(const CalendarrDate& date);
+
+// ---- Field check of "Find The Weekday Of A Date" ----------------------------------------------
+
+// The texts of the five combo boxes of frmFindADate.
+struct FindADateFields {
+  std::string ComboCalendar;
+  std::string ComboMonths;
+  std::string ComboDate;
+  std::string ComboCentury;
+  std::string ComboYear;
+};
+
+struct FieldCheckResult {
+  int status = 0;       // 0 when every field is fine, else the last status set (1 to 6)
+  int error_count = 0;  // how many errors were found
+  EngineMessage message;  // the status's message for one error, the general one for more
+};
+
+// Form1_Field_Validation_Check_Status over the five texts: style, month, year, date, century
+// (a number from 0 to 1000), in that order.
+FieldCheckResult Form1_Field_Validation_Check_Status(const FindADateFields& fields);
+
+// The message of a field-check status 1 to 7 (7 is in the table but never reached); with
+// kGeneralFieldStatus, "Invalid Field Entries"; empty for anything else.
+inline constexpr int kGeneralFieldStatus = -1;
+EngineMessage Field_Validation_Message(int status);
 
 }  // namespace orrivane::engine
