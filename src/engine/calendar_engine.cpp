@@ -499,4 +499,232 @@ MonthGrid Select_Month_Grid(const Value& month, std::int64_t year, CalendarStyle
   return Draw_Month_Cells(Select_Month_First_Weekday(number, year, style), length, length_before, 0);
 }
 
+// ---- Conversion between the styles (Convert) --------------------------------------------------
+
+namespace {
+
+// Convert's four tables for one leap flag, indexed 0 to 12; element 0 is empty and counts as 0.
+struct ConvertTables {
+  std::array<std::int64_t, 13> days;
+  std::array<std::int64_t, 13> forward;   // day of the year on which the month starts
+  std::array<std::int64_t, 13> backward;  // one more than the days of the months after it
+  std::int64_t year_length;
+};
+
+constexpr std::array<const char*, 13> kConvertMonthNames{
+    "", "January", "February", "March", "April", "May", "June",
+    "July", "August", "September", "October", "November", "December"};
+
+constexpr ConvertTables kCommonYearTables{
+    {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31},
+    {0, 1, 32, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335},
+    {0, 335, 307, 276, 246, 215, 185, 154, 123, 93, 62, 32, 1},
+    365};
+
+constexpr ConvertTables kLeapYearTables{
+    {0, 31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31},
+    {0, 1, 32, 61, 92, 122, 153, 183, 214, 245, 275, 306, 336},
+    {0, 336, 307, 276, 246, 215, 185, 154, 123, 93, 62, 32, 1},
+    366};
+
+// The tables rebuilt for a year's leap flag by the rule of a style.
+const ConvertTables& Tables_For(std::int64_t year, CalendarStyle rule) {
+  return Is_It_A_Leap_Year(Value(year), Calendar_Style_Name(rule)) ? kLeapYearTables : kCommonYearTables;
+}
+
+// An element of a table; an index outside 0 to 12 is Subscript out of range (9).
+std::int64_t At(const std::array<std::int64_t, 13>& table, std::int64_t k) {
+  if (k < 0 || k > 12) throw RuntimeFailure(kSubscriptOutOfRange);
+  return table[static_cast<std::size_t>(k)];
+}
+
+// 1 to 12 for a full English month name, 0 (the empty element) for anything else.
+std::int64_t Convert_Month_Number(const std::string& month) {
+  for (std::size_t k = 1; k < kConvertMonthNames.size(); ++k) {
+    if (month == kConvertMonthNames[k]) return static_cast<std::int64_t>(k);
+  }
+  return 0;
+}
+
+struct ConvertedDate {
+  std::int64_t month;  // 0 to 12
+  std::int64_t day;
+  std::int64_t year;
+};
+
+// Gregorian to Julian: the result is earlier than the source.
+ConvertedDate Gregorian_To_Julian(std::int64_t month, std::int64_t date, std::int64_t year, std::int64_t difference) {
+  const ConvertTables* tables = &Tables_For(year, CalendarStyle::Julian);
+  const std::int64_t position = At(tables->forward, month) + date;
+  std::int64_t k = month;
+  std::int64_t day = 0;
+  if (difference < position) {
+    // The same year.
+    const std::int64_t w = position - difference;
+    while (At(tables->forward, k) > w) --k;
+    day = w - At(tables->forward, k);
+    if (day == 0) {
+      --k;
+      if (k == 0) {
+        k = 12;
+        --year;
+      }
+      day = At(tables->days, k);
+    }
+    return {k, day, year};
+  }
+  // An earlier year: step back a year at a time while the rest exceeds a year.
+  std::int64_t rest = difference;
+  year -= 1;
+  tables = &Tables_For(year, CalendarStyle::Julian);
+  while (rest > position + tables->year_length) {
+    rest -= tables->year_length;
+    --year;
+    tables = &Tables_For(year, CalendarStyle::Julian);
+  }
+  const bool equality = rest == position + tables->year_length;
+  const std::int64_t back = rest - (position - 1);
+  k = 1;
+  while (At(tables->backward, k) > back) ++k;
+  day = At(tables->days, k) - ((back - At(tables->backward, k)) + 1);
+  if (day == 0 || equality) {
+    --k;
+    if (k == 0) k = 12;
+    day = At(tables->days, k);
+    if (k == 12) --year;
+    if (equality) day = 30;
+  }
+  return {k, day, year};
+}
+
+// Julian to Gregorian: the result is later than the source.
+ConvertedDate Julian_To_Gregorian(std::int64_t month, std::int64_t date, std::int64_t year, std::int64_t difference) {
+  const ConvertTables* tables = &Tables_For(year, CalendarStyle::Gregorian);
+  const std::int64_t position = At(tables->backward, month) + (At(tables->days, month) - date);
+  std::int64_t k = month;
+  std::int64_t day = 0;
+  if (difference < position) {
+    // The same year.
+    const std::int64_t w = position - difference;
+    while (At(tables->backward, k) > w) ++k;
+    day = At(tables->days, k) - (w - At(tables->backward, k));
+    if (day == 0) {
+      --k;
+      if (k == 0) k = 12;
+      day = At(tables->days, k);
+    }
+    return {k, day, year};
+  }
+  // A later year: step on a year at a time while the rest exceeds a year.
+  std::int64_t rest = difference;
+  year += 1;
+  tables = &Tables_For(year, CalendarStyle::Gregorian);
+  while (rest > position + tables->year_length) {
+    rest -= tables->year_length;
+    ++year;
+    tables = &Tables_For(year, CalendarStyle::Gregorian);
+  }
+  const bool equality = rest == position + tables->year_length;
+  const std::int64_t forth = rest - (position - 1);
+  k = 12;
+  day = (forth - At(tables->forward, k)) + 1;
+  // "At least": the walk passes a month's own first day by one. For a 1 January it runs on to
+  // the empty element 0 (empty month, day 2); a 1 December comes back as 1 January of the year
+  // after, since 12 wraps to 1 below. Both are kept.
+  while (At(tables->forward, k) >= forth) {
+    --k;
+    day = (forth - At(tables->forward, k)) + 1;
+  }
+  if (day == At(tables->days, k) + 1 || equality) {
+    ++k;
+    if (k >= 12) k = 1;
+    day = 1;
+    if (k == 1) ++year;
+  }
+  return {k, day, year};
+}
+
+}  // namespace
+
+std::int64_t Convert_Day_Difference(const std::string& month, std::int64_t year) {
+  const std::int64_t century = year / 100;
+  std::int64_t difference = (century - 2) - Floor_Div(century, 4);
+  // Before the end of February of such a century year the calendars have not parted by the
+  // further day.
+  if (year % 400 != 0 && year % 100 == 0 && (month == "January" || month == "February")) difference -= 1;
+  return difference;
+}
+
+EngineMessage Convert_Message(int error_code, const ConvertDate& date) {
+  switch (error_code) {
+    case 1:
+      if (date.style == CalendarStyle::Julian) {
+        return {"Invalid Date For Conversion", std::string("To convert a date from Julian to Gregorian, the ") +
+                                                   kCarriageReturn + "date entered must be on or after October 5, 1582."};
+      }
+      return Gregorian_Start_Message();
+    case 2: return February_Message(date.year);
+    case 3: return No_Such_Day_Message(date.month, date.date);
+    default: return {};
+  }
+}
+
+ConvertResult Convert_Compute(const ConvertDate& date) {
+  if (date.year > kLargestConvertYear) throw RuntimeFailure(kOverflow);
+  Require_Input_Range(date.date);
+  const bool julian = date.style == CalendarStyle::Julian;
+  const std::int64_t year = date.year;
+  const std::int64_t month = Convert_Month_Number(date.month);
+  ConvertResult result;
+
+  // Validation, the same in both modes.
+  const ConvertTables& source_tables = Tables_For(year, date.style);
+  int code = 0;
+  if (year < 1582) code = 1;
+  if (year == 1582) {
+    // "Novemeber" is spelled so, and matches no month: November 1582 is not convertible.
+    if (date.month == "Novemeber" || date.month == "December") {
+    } else if (date.month == "October") {
+      if (date.date < (julian ? 5 : 15)) code = 1;
+    } else {
+      code = 1;
+    }
+  }
+  if (month != 0 && date.date > At(source_tables.days, month) && code != 1) code = 3;
+  if (date.month == "February" && date.date == 29 && At(source_tables.days, 2) == 28 && code != 1) code = 2;
+  if (code != 0) {
+    result.error_code = code;
+    result.message = Convert_Message(code, date);
+    return result;
+  }
+
+  result.difference = Convert_Day_Difference(date.month, year);
+  const ConvertedDate converted = julian ? Julian_To_Gregorian(month, date.date, year, result.difference)
+                                         : Gregorian_To_Julian(month, date.date, year, result.difference);
+  result.month = kConvertMonthNames[static_cast<std::size_t>(converted.month)];
+  result.day = converted.day;
+  result.year = converted.year;
+  result.century = converted.year / 100;
+  result.two_digit_year = converted.year % 100;
+  result.style = julian ? CalendarStyle::Gregorian : CalendarStyle::Julian;
+
+  // 29 February of a Julian century year that the Gregorian calendar skips: the step in the
+  // difference comes a day later for it.
+  std::int64_t shown = result.difference;
+  if (julian && year % 400 != 0 && year % 100 == 0 && year > 290 && date.date == 29 && date.month == "February") {
+    shown += 1;
+  }
+  result.displayed_difference = shown < 0 ? -shown : shown;
+
+  result.lblDate1 = date.month + " " + Text(date.date) + ", " + Text(year) + " " + Calendar_Style_Label(date.style);
+  result.lblEquivalent = julian ? "Gregorian Equivalent: " : "Julian Equivalent: ";
+  result.lblDate2 =
+      result.month + " " + Text(result.day) + ", " + Text(result.year) + " " + Calendar_Style_Label(result.style);
+  result.lblDifference = Text(result.displayed_difference) + " day(s).";
+  // The month number Define_Month gives the name: its index, and nothing for the empty element.
+  result.date_string = (converted.month == 0 ? std::string() : Text(converted.month)) + "/" + Text(result.day) + "/" +
+                       Text(result.year);
+  return result;
+}
+
 }  // namespace orrivane::engine
