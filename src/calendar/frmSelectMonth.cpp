@@ -3,11 +3,10 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
-#include <optional>
 
 #include "calendar/Form1.h"
 #include "calendar/frmLargeCalendar.h"
-#include "core/runtime_failure.h"
+#include "calendar/select_month_check.h"
 #include "core/text.h"
 #include "core/value.h"
 #include "engine/calendar_engine.h"
@@ -20,67 +19,6 @@ namespace orrivane {
 namespace {
 
 using platform::Machine;
-
-constexpr double kLastYear = 1000000;
-constexpr int kGeneralStatus = 6;
-
-// The number the year text stands for; nothing when it is no number (or too large to hold,
-// which fails the conversion just the same).
-std::optional<double> Year_Number(const std::string& year_text) {
-  try {
-    return Parse_Number(year_text);
-  } catch (const RuntimeFailure&) {
-    return std::nullopt;
-  }
-}
-
-// The Gregorian calendar begins in October 1582.
-bool Before_Gregorian_Calendar(const std::string& month, double year) {
-  if (year < 1582) return true;
-  return year == 1582 && month != "October" && month != "November" && month != "December";
-}
-
-// The status of the entries, 0 when the month can be drawn: 1 no month, 2 no year, 3 a year out
-// of range, 4 a month before the Gregorian calendar, 5 a year that is no number, 6 more than one
-// of these. A year of 0 passes in the Julian style.
-int Entry_Status(const std::string& month, const std::string& year_text, const std::string& style) {
-  int status = 0;
-  int errors = 0;
-  auto error = [&status, &errors](int found) {
-    status = found;
-    ++errors;
-  };
-  if (month.empty()) error(1);
-  if (year_text.empty()) {
-    error(2);
-  } else if (const std::optional<double> year = Year_Number(year_text); !year) {
-    error(5);  // the year tests cannot be made
-  } else if (*year > kLastYear || (*year < 0 && style == "Julian")) {
-    error(3);
-  } else if (style == "Gregorian" && Before_Gregorian_Calendar(month, *year)) {
-    error(4);
-  }
-  if (errors > 1) status = kGeneralStatus;
-  return status;
-}
-
-struct EntryMessage {
-  const char* title;
-  std::string text;
-};
-
-EntryMessage Entry_Message(int status) {
-  switch (status) {
-    case 1: return {"No Month Selected", "A month must be selected."};
-    case 2: return {"No Year Entered", "A year must be entered."};
-    case 3: return {"Invalid Year Entry", "Please enter a value from 1 to 1000000."};
-    case 4:
-      return {"Invalid Month Selection", std::string("For the Gregorian Calendar, please make sure the ") +
-                                             engine::kCarriageReturn + "month selected is October 1582 or later."};
-    case 5: return {"Invalid Year Entry", "The year must contain only numbers."};
-    default: return {"Error", "Please select a month and enter a valid year in the year field."};
-  }
-}
 
 }  // namespace
 
@@ -163,7 +101,7 @@ void frmSelectMonth::Form_Deactivate() {
 }
 
 void frmSelectMonth::Show_Entry_Message(int status) {
-  const EntryMessage message = Entry_Message(status);
+  const engine::EngineMessage message = calendar::Select_Month_Entry_Message(status);
   showing_message_ = true;
   Machine().Message_Box(message.text, platform::vbOKOnly, platform::vbExclamation, message.title);
   showing_message_ = false;
@@ -173,7 +111,7 @@ void frmSelectMonth::cmdDisplay_Click() {
   const std::string style = Selected_Style();
   const std::string month = ComboMonths->currentText().toStdString();
   const std::string year_text = txtYear->text().toStdString();
-  if (const int status = Entry_Status(month, year_text, style); status != 0) {
+  if (const int status = calendar::Select_Month_Entry_Status(month, year_text, style); status != 0) {
     Show_Entry_Message(status);
     return;
   }
