@@ -20,7 +20,8 @@ using Command_Handler = void (*)(const Arguments&, Command_Context&);
 
 struct Command_Spec {
   std::string_view name;
-  std::string_view usage;  // after "orrivane-cal "; empty for a command told in another's line
+  std::string_view usage;  // after "orrivane-cal "
+  bool in_help;            // --help lists the usage (--version shares the line of --help)
   std::span<const Option_Spec> options;
   std::size_t least_operands;
   std::size_t most_operands;
@@ -32,19 +33,22 @@ constexpr Option_Spec kHolidayOptions[] = {{"--holiday", true}};
 constexpr Option_Spec kElapsedOptions[] = {{"--julian", false}, {"--total", false}, {"--units", true}};
 
 constexpr std::array<Command_Spec, 9> kCommands{{
-    // name        usage                                                           options          operands  handler
-    {"weekday",   "weekday  [--julian] MONTH DAY YEAR",                           kStyleOption,    3, 3, Run_Weekday},
-    {"month",     "month    [--julian] MONTH YEAR",                               kStyleOption,    2, 2, Run_Month},
-    {"convert",   "convert  [--julian] MONTH DAY YEAR",                           kStyleOption,    3, 3, Run_Convert},
-    {"holidays",  "holidays [--holiday NAME] YEAR [TO_YEAR]",                     kHolidayOptions, 1, 2, Run_Holidays},
-    {"elapsed",   "elapsed  [--julian] [--total | --units UNITS] FROM TO",        kElapsedOptions, 2, 2, Run_Elapsed},
-    {"calc",      "calc     OPERATION A B",                                       {},              3, 3, Run_Calc},
-    {"batch",     "batch",                                                        {},              0, 0, Run_Batch},
-    {"--help",    "--help | --version",                                           {},              0, 0, Run_Help},
-    {"--version", "",                                                             {},              0, 0, Run_Version},
+    // name        usage                                                     in help  options          operands  handler
+    {"weekday",   "weekday  [--julian] MONTH DAY YEAR",                      true,  kStyleOption,    3, 3, Run_Weekday},
+    {"month",     "month    [--julian] MONTH YEAR",                          true,  kStyleOption,    2, 2, Run_Month},
+    {"convert",   "convert  [--julian] MONTH DAY YEAR",                      true,  kStyleOption,    3, 3, Run_Convert},
+    {"holidays",  "holidays [--holiday NAME] YEAR [TO_YEAR]",                true,  kHolidayOptions, 1, 2, Run_Holidays},
+    {"elapsed",   "elapsed  [--julian] [--total | --units UNITS] FROM TO",   true,  kElapsedOptions, 2, 2, Run_Elapsed},
+    {"calc",      "calc     OPERATION A B",                                  true,  {},              3, 3, Run_Calc},
+    {"batch",     "batch",                                                   true,  {},              0, 0, Run_Batch},
+    {"--help",    "--help | --version",                                      true,  {},              0, 0, Run_Help},
+    {"--version", "--help | --version",                                      false, {},              0, 0, Run_Version},
 }};
 
 constexpr std::string_view kProgram = "orrivane-cal";
+constexpr std::string_view kHelpHint = "orrivane-cal --help lists the commands.";
+
+std::string Usage_Line(const Command_Spec& command) { return std::string(kProgram) + " " + std::string(command.usage); }
 
 const Command_Spec* Find_Command(std::string_view name) {
   const auto found = std::find_if(kCommands.begin(), kCommands.end(),
@@ -53,7 +57,7 @@ const Command_Spec* Find_Command(std::string_view name) {
 }
 
 [[noreturn]] void Usage_Error(const Command_Spec& command) {
-  throw Command_Error("Usage", std::string(kProgram) + " " + std::string(command.usage));
+  throw Command_Error("Usage", Usage_Line(command));
 }
 
 const Option_Spec* Find_Option(const Command_Spec& command, std::string_view name) {
@@ -99,13 +103,11 @@ Arguments Parse_Arguments(const Command_Spec& command, std::span<const std::stri
 
 void Run_Parsed(const std::vector<std::string>& words, Command_Context& context) {
   if (words.empty()) {
-    throw Command_Error("Usage", std::string(kProgram) + " COMMAND ...; " + std::string(kProgram) +
-                                     " --help lists the commands.");
+    throw Command_Error("Usage", std::string(kProgram) + " COMMAND ...; " + std::string(kHelpHint));
   }
   const Command_Spec* command = Find_Command(words.front());
   if (command == nullptr) {
-    throw Command_Error("Unknown Command", "\"" + words.front() + "\" is no command; " + std::string(kProgram) +
-                                               " --help lists the commands.");
+    throw Command_Error("Unknown Command", "\"" + words.front() + "\" is no command; " + std::string(kHelpHint));
   }
   const Arguments arguments = Parse_Arguments(*command, std::span<const std::string>(words).subspan(1));
   command->run(arguments, context);
@@ -138,13 +140,13 @@ std::optional<std::string> Run_Command(const std::vector<std::string>& words, Co
 
 std::string Usage_Of(std::string_view command) {
   const Command_Spec* found = Find_Command(command);
-  return found == nullptr ? std::string() : std::string(kProgram) + " " + std::string(found->usage);
+  return found == nullptr ? std::string() : Usage_Line(*found);
 }
 
 void Run_Help(const Arguments&, Command_Context& context) {
   context.out.Line("Usage:");
   for (const Command_Spec& command : kCommands) {
-    if (!command.usage.empty()) context.out.Line("  " + std::string(kProgram) + " " + std::string(command.usage));
+    if (command.in_help) context.out.Line("  " + Usage_Line(command));
   }
 }
 

@@ -18,6 +18,7 @@ usage='Usage:
 answers "$usage" --help
 answers "orrivane-cal $version" --version
 refuses 'error: Usage: orrivane-cal --help | --version' --help weekday
+refuses 'error: Usage: orrivane-cal --help | --version' --version 1
 
 refuses 'error: Usage: orrivane-cal COMMAND ...; orrivane-cal --help lists the commands.'
 refuses 'error: Unknown Command: "frob" is no command; orrivane-cal --help lists the commands.' frob
