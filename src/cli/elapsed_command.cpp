@@ -38,22 +38,19 @@ constexpr char kMomentForm[] = "HH:MM, Month D, YYYY";
 // and its double would no longer tell its leap years; see Century_And_Year.
 constexpr std::size_t kLongestYear = 15;
 
+const Unit_Row& Row_Of_Letter(char letter) {
+  for (const Unit_Row& row : kUnitRows) {
+    if (row.letter == letter) return row;
+  }
+  throw Command_Error("Invalid Units", "\"" + std::string(1, letter) + "\" is none of the letters y, m, d, h, M.");
+}
+
 // The ticks of the remaining mode: the letters of --units, every unit when it is not given.
 elapsed::Ticked_Units Ticked_Units_Of(const std::string* letters) {
   elapsed::Ticked_Units ticked{};
-  for (const Unit_Row& row : kUnitRows) ticked[elapsed::Unit_Index(row.unit)] = letters == nullptr;
+  ticked.fill(letters == nullptr);
   if (letters == nullptr) return ticked;
-  for (char letter : *letters) {
-    bool known = false;
-    for (const Unit_Row& row : kUnitRows) {
-      if (row.letter != letter) continue;
-      ticked[elapsed::Unit_Index(row.unit)] = true;
-      known = true;
-    }
-    if (!known) {
-      throw Command_Error("Invalid Units", "\"" + std::string(1, letter) + "\" is none of the letters y, m, d, h, M.");
-    }
-  }
+  for (char letter : *letters) ticked[elapsed::Unit_Index(Row_Of_Letter(letter).unit)] = true;
   return ticked;
 }
 
@@ -68,8 +65,9 @@ bool Is_Clock_Field(const std::string& field, int largest) {
 
 // The year box pair of a written year: century (the year div 100) and year in century (mod 100).
 // A year that is not all digits stays whole in the century box, which the checks then find not
-// numeric. Leading zeros say nothing. A year longer than kLongestYear digits is far out of range whatever its value; its
-// last four digits (which alone decide its leap years) are kept under a stand-in century.
+// numeric. Leading zeros say nothing. A year longer than kLongestYear digits is far out of range
+// whatever its value; its last four digits (which alone decide its leap years) are kept under a
+// stand-in century.
 void Century_And_Year(std::string year, Time_Selection& selection) {
   if (!Is_All_Digits(year)) {
     selection.Century = year;
