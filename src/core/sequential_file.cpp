@@ -23,8 +23,13 @@ SequentialWriter::SequentialWriter(const std::string& path, Mode mode)
 }
 
 std::string SequentialWriter::Format(const Value& value) {
-  if (value.is_text()) return "\"" + value.text() + "\"";
-  return value.text();
+  if (!value.is_text()) return value.text();
+  std::string quoted;
+  quoted.reserve(value.text().size() + 2);
+  quoted += '"';
+  quoted += value.text();
+  quoted += '"';
+  return quoted;
 }
 
 void SequentialWriter::Write_Line(const std::vector<Value>& values) {
