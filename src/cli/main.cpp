@@ -2,6 +2,7 @@
 // many from standard input with "batch".
 #include <cstdio>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,7 @@ int main(int argc, char** argv) {
     error = orrivane::cli::Run_Command(words, context);
   }
   if (!error) return 0;
-  std::fputs((*error + "\n").c_str(), stderr);
+  const std::string line = *error + "\n";
+  std::fwrite(line.data(), 1, line.size(), stderr);
   return 1;
 }
