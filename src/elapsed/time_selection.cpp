@@ -26,7 +26,10 @@ void Fill_Pair(std::string& coarse, std::string& fine, const std::string& now_co
 Time_Selection Selection_At(const std::string& Month_Name, long long Date, long long Year, long long Hour,
                             long long Minute) {
   const long long century = Floor_Division(Year, 100);
-  return {Month_Name,           std::to_string(Date),  std::to_string(century), std::to_string(Year - century * 100),
+  // The year in the century as a floored remainder: century * 100 leaves the range of long long
+  // for the smallest years.
+  const long long year_in_century = (Year % 100 + 100) % 100;
+  return {Month_Name,           std::to_string(Date),  std::to_string(century), std::to_string(year_in_century),
           std::to_string(Hour), std::to_string(Minute)};
 }
 
