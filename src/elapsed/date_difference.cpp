@@ -111,8 +111,11 @@ long long Months_In_Days(const std::string& Cal_Style, const Moment& later, cons
 
 long long Floor_Division(long long a, long long b) { return a / b - (a % b != 0 && (a < 0) != (b < 0) ? 1 : 0); }
 
+// The multiples of `of` up to first - 1 are those up to first, less first itself when it is one;
+// first - 1 itself would leave the range of long long for the smallest year.
 long long Multiples_Between(long long first, long long last, long long of) {
-  return Floor_Division(last, of) - Floor_Division(first - 1, of);
+  const long long before_first = Floor_Division(first, of) - (first % of == 0 ? 1 : 0);
+  return Floor_Division(last, of) - before_first;
 }
 
 }  // namespace
