@@ -205,8 +205,11 @@ MonthGrid Draw_Month_Cells(int first_column, int length, int length_before, std:
     if (cell < 0 || cell >= kGridCells) throw RuntimeFailure(kSubscriptOutOfRange);
     grid[static_cast<std::size_t>(cell)] = {Text(caption), colour};
   };
-  // The last days of the month before, up to the column before the first.
-  for (int k = 1; k <= first_column - 1; ++k) put(k - 1, (length_before - (first_column - 1)) + k, kGreyTextColour);
+  // The last days of the month before, up to the column before the first; counted in 64 bits, as
+  // a length near the smallest int would leave the range of int.
+  for (int k = 1; k <= first_column - 1; ++k) {
+    put(k - 1, (std::int64_t{length_before} - (first_column - 1)) + k, kGreyTextColour);
+  }
   // The month's own days, the selected one red.
   for (int d = 1; d <= length; ++d) {
     put((first_column - 1) + (d - 1), d, d == selected_date ? kRedColour : kButtonTextColour);
