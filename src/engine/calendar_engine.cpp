@@ -315,6 +315,15 @@ WeekdayAndLeap Calendarr_Arithmetic(const CalendarrDate& date) {
 
 }  // namespace
 
+std::int64_t CalendarrDate::year() const {
+  std::int64_t hundreds = 0;
+  std::int64_t whole = 0;
+  if (__builtin_mul_overflow(century, 100, &hundreds) || __builtin_add_overflow(hundreds, two_digit_year, &whole)) {
+    throw RuntimeFailure(kOverflow);
+  }
+  return whole;
+}
+
 CalendarrDate Calendarr_Date_From_Year(std::string month, std::int64_t date, std::int64_t year, CalendarStyle style) {
   return {std::move(month), date, year / 100, year % 100, style};
 }

@@ -92,7 +92,8 @@ struct CalendarrDate {
   std::int64_t century = 0;
   std::int64_t two_digit_year = 0;
   CalendarStyle style = CalendarStyle::Gregorian;
-  std::int64_t year() const { return century * 100 + two_digit_year; }
+  // Overflow (6) for fields whose year lies beyond 64 bits.
+  std::int64_t year() const;
 };
 
 // The same date from a whole year, split into century (quotient by 100) and two-digit year.
