@@ -564,6 +564,25 @@ struct ConvertedDate {
   std::int64_t year;
 };
 
+// A run of consecutive years that has the same number of days wherever it starts.
+struct YearBlock {
+  std::int64_t years;
+  std::int64_t days;
+};
+constexpr YearBlock kJulianBlock{4, 1461};         // one leap year in any four
+constexpr YearBlock kGregorianBlock{400, 146097};  // 97 leap years in any four hundred
+
+// How many whole blocks the year-by-year walks below would step through one year at a time. A
+// step is taken while the rest exceeds the position by more than its year's length (at most
+// 366) and takes that length off, so every step of a block is taken while `excess`, the rest
+// above the position, is at least 367 + 366 x (years - 1). A date far outside its month (the
+// walks take any day number) would otherwise cost one round for each of its days / 365 years;
+// the blocks give the same year and rest at once, and the walk takes the few years left.
+std::int64_t Whole_Blocks_Stepped(std::int64_t excess, const YearBlock& block) {
+  const std::int64_t needed = 367 + (block.years - 1) * 366;
+  return excess < needed ? 0 : (excess - needed) / block.days + 1;
+}
+
 // Gregorian to Julian: the result is earlier than the source.
 ConvertedDate Gregorian_To_Julian(std::int64_t month, std::int64_t date, std::int64_t year, std::int64_t difference) {
   const ConvertTables* tables = &Tables_For(year, CalendarStyle::Julian);
@@ -588,6 +607,9 @@ ConvertedDate Gregorian_To_Julian(std::int64_t month, std::int64_t date, std::in
   // An earlier year: step back a year at a time while the rest exceeds a year.
   std::int64_t rest = difference;
   year -= 1;
+  const std::int64_t blocks = Whole_Blocks_Stepped(rest - position, kJulianBlock);
+  rest -= blocks * kJulianBlock.days;
+  year -= blocks * kJulianBlock.years;
   tables = &Tables_For(year, CalendarStyle::Julian);
   while (rest > position + tables->year_length) {
     rest -= tables->year_length;
@@ -630,6 +652,9 @@ ConvertedDate Julian_To_Gregorian(std::int64_t month, std::int64_t date, std::in
   // A later year: step on a year at a time while the rest exceeds a year.
   std::int64_t rest = difference;
   year += 1;
+  const std::int64_t blocks = Whole_Blocks_Stepped(rest - position, kGregorianBlock);
+  rest -= blocks * kGregorianBlock.days;
+  year += blocks * kGregorianBlock.years;
   tables = &Tables_For(year, CalendarStyle::Gregorian);
   while (rest > position + tables->year_length) {
     rest -= tables->year_length;
