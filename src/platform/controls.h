@@ -2,8 +2,10 @@
 // Small helpers shared by the windows: the program's colour numbers, twips, control names.
 #include <QColor>
 #include <QLabel>
+#include <QPushButton>
 #include <QString>
 #include <string>
+#include <utility>
 
 namespace orrivane::controls {
 
@@ -15,6 +17,21 @@ constexpr unsigned kRed = 255;
 
 // The colour a program colour number stands for, system colours through the palette.
 QColor To_QColor(unsigned colour);
+
+// A control of type C made a child of `parent` and known by `name`; further arguments go to C's
+// constructor before the parent (a caption, for instance).
+template <class C, class... Args>
+C* Make(QWidget* parent, const QString& name, Args&&... args) {
+  auto* control = new C(std::forward<Args>(args)..., parent);
+  control->setObjectName(name);
+  return control;
+}
+inline QLabel* Make_Label(QWidget* parent, const QString& name, const QString& caption = {}) {
+  return Make<QLabel>(parent, name, caption);
+}
+inline QPushButton* Make_Button(QWidget* parent, const QString& name, const QString& caption) {
+  return Make<QPushButton>(parent, name, caption);
+}
 
 // Twips (15 to a pixel) to pixels.
 constexpr int Px(int twips) { return twips / 15; }
