@@ -8,11 +8,14 @@
 //   format|MONTH|DATE|YEAR    Convert_To_Date_Format, and the date parser on its answer
 //   hour|HOUR|DAY HALF        the 12/24-hour converters, with the hour as text and as number
 //   month|TEXT                Define_Month and Define_Weekday with every verb, style names
+//   leap|YEAR|STYLE           the leap rule and a month's length for a year written as text
 //   selection|M|D|C|Y|H|MI|M|D|C|Y|H|MI|STYLE   the two sides of Find Time Length
 //   select_month|MONTH|YEAR|STYLE              View Month On Calendar's entry check
 //   find_a_date|STYLE|MONTH|DATE|CENTURY|YEAR  Find The Weekday Of A Date's field check
 #include <array>
+#include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "calendar/select_month_check.h"
@@ -118,6 +121,38 @@ void Month(Operands operands) {
   static_cast<void>(engine::Calendar_Style_From_Text(text));
 }
 
+// The magnitude of a year written as a whole number (a sign, then digits only); nothing for
+// any other text, or for more than 15 digits: up to 10^15 the loose value holds every whole
+// number exactly (beyond 2^53 it does not, and a year beyond 64 bits is taken as the loose value
+// keeps it: the date checks of Find Time Length still answer for a century far out of range).
+std::optional<std::int64_t> Exact_Year_Magnitude(std::string_view text) {
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
+  if (text.empty() || text.find_first_not_of("0123456789") != std::string_view::npos) return std::nullopt;
+  text.remove_prefix(std::min(text.find_first_not_of('0'), text.size() - 1));
+  if (text.size() > 15) return std::nullopt;
+  return std::stoll(std::string(text));
+}
+
+// Divisibility does not depend on the sign, so the rule can be checked on the magnitude.
+void Check_Leap_Rule(const Value& year, const std::string& style, std::int64_t magnitude) {
+  const bool expected =
+      magnitude % 400 == 0 || (magnitude % 100 == 0 ? style == "Julian" : magnitude % 4 == 0);
+  Expect(engine::Is_It_A_Leap_Year(year, style) == expected, "the leap rule is wrong for " + year.text());
+}
+
+void Leap(Operands operands) {
+  const std::string text = Text(operands, 0);
+  const std::string style = Text(operands, 1);
+  for (const Value& year : Both_Forms(text)) {
+    Defined([&] { static_cast<void>(engine::Is_It_A_Leap_Year(year, style)); });
+    Defined([&] { static_cast<void>(engine::Is_It_A_Valid_Date("February", "Get Max Days", year, style)); });
+    Defined([&] { static_cast<void>(engine::Is_It_A_Valid_Date("February", 29, year, style)); });
+  }
+  if (const std::optional<std::int64_t> magnitude = Exact_Year_Magnitude(text)) {
+    Check_Leap_Rule(Value(text), style, *magnitude);
+  }
+}
+
 elapsed::Time_Selection Side(Operands operands, std::size_t first) {
   return {Text(operands, first),     Text(operands, first + 1), Text(operands, first + 2),
           Text(operands, first + 3), Text(operands, first + 4), Text(operands, first + 5)};
@@ -159,7 +194,7 @@ void Find_A_Date(Operands operands) {
 constexpr orrivane::fuzz::Command kCommands[] = {
     {"time", Time},           {"date", Date},
     {"format", Format},       {"hour", Hour},
-    {"month", Month},         {"selection", Selection},
+    {"month", Month},         {"leap", Leap},           {"selection", Selection},
     {"select_month", Select_Month}, {"find_a_date", Find_A_Date},
 };
 
