@@ -55,7 +55,7 @@ run_target() {
   local log="$build/logs/$target.log"
   mkdir -p "$corpus" "$findings" "$(dirname "$log")"
   # The working corpus grows run by run; the seeds kept in the repository are copied in afresh.
-  cp -f fuzz/corpus/"$target"/* "$corpus"/
+  [ -d "fuzz/corpus/$target" ] && cp -f fuzz/corpus/"$target"/* "$corpus"/
   local options=(-max_total_time="$seconds" -timeout="$per_input_timeout" -rss_limit_mb="$memory_limit_mb"
                  -artifact_prefix="$findings/" -print_final_stats=1)
   [ -f "fuzz/dict/$target.dict" ] && options+=(-dict="fuzz/dict/$target.dict")
