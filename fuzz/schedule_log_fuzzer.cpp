@@ -1,7 +1,8 @@
 // The log record reader over a whole file of any content: task records and person marker
 // records, in the 8-line and in the 28-line arrangement, truncated records, stray quotes. The
 // log is numbered, copied with its reminder records as opening a log copies it, and the copy is
-// read again: it must hold the same records, and a copy of the copy the same bytes.
+// read again: it must hold the same records, and a copy of the copy the same bytes. A marker
+// record written for each record's member reads back as that member's marker.
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -56,9 +57,24 @@ bool Has_Written_Form(const std::vector<ScheduleRecord>& records) {
   return true;
 }
 
+// A member's marker record, as first written in 28 lines, reads back as a marker of that name.
+void Check_Markers(const std::vector<ScheduleRecord>& records) {
+  const std::string markers = orrivane::fuzz::Scratch_File("markers.tmp", "");
+  for (const ScheduleRecord& record : records) {
+    orrivane::organizer::Generate_Person_Marker_Record(markers, record.Person_Name);
+  }
+  const std::vector<ScheduleRecord> read = Records_Of(markers);
+  Expect(read.size() == records.size(), "marker records read back in another number");
+  for (std::size_t i = 0; i < read.size(); ++i) {
+    Expect(orrivane::organizer::Is_Person_Marker(read[i]), "a marker record reads back as a task");
+    Expect(Same_Value(read[i].Person_Name, records[i].Person_Name), "a marker record reads back another name");
+  }
+}
+
 void Check_Copy(const std::string& log, const std::string& copy, const std::string& reminders) {
   const std::vector<ScheduleRecord> original = Records_Of(log);
   if (!Has_Written_Form(original)) return;
+  Check_Markers(original);
   const std::vector<ScheduleRecord> copied = Records_Of(copy);
   Expect(copied.size() == original.size(), "the copy of a log has another number of records");
   for (std::size_t i = 0; i < original.size(); ++i) {
