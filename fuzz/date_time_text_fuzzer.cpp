@@ -12,8 +12,8 @@
 //   selection|M|D|C|Y|H|MI|M|D|C|Y|H|MI|STYLE   the two sides of Find Time Length
 //   select_month|MONTH|YEAR|STYLE              View Month On Calendar's entry check
 //   find_a_date|STYLE|MONTH|DATE|CENTURY|YEAR  Find The Weekday Of A Date's field check
-#include <array>
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
