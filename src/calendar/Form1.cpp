@@ -7,6 +7,8 @@
 #include "calendar/frmFindADate.h"
 #include "calendar/frmLargeCalendar.h"
 #include "calendar/frmSelectMonth.h"
+#include "elapsed/frmFindDateDifference.h"
+#include "holidays/frmFindAHoliday.h"
 #include "shell/frmAbout.h"
 #include "shell/frmLiscense.h"
 #include "core/sequential_file.h"
@@ -68,7 +70,7 @@ constexpr MenuEntry kForm1Menu[] = {
 constexpr const char* kNotYetAvailable[] = {
     "mnuNewLog", "mnuOpenLog", "mnuSaveLog", "mnuSaveLogAs", "mnuPrintLog", "mnuPrintCalendar",
     "mnuTaskEventInfo", "mnuAddNewTaskEventToLog", "mnuAddNewGroupMember", "mnuDeleteATaskEvent",
-    "mnuDeleteGroupMember", "mnuFindHolidayDates", "mnuScheduler_Reminder", "mnuFindTimeLengthBetweenDates",
+    "mnuDeleteGroupMember", "mnuScheduler_Reminder",
     "mnuAdd", "mnuChange", "mnuDelete", "mnuContents",
 };
 
@@ -130,7 +132,7 @@ void Form1::Build_Controls() {
   cmdPrintTheCalendar = Make_Button(body, "cmdPrintTheCalendar", "Print The Calendar");
   cmdOrganizer = Make_Button(body, "cmdOrganizer", "Organizer\\Edit Tasks Or Events");
   cmdExit = Make_Button(body, "cmdExit", "EXIT");
-  for (QPushButton* later : {cmdFindHolidayDates, cmdPrintTheCalendar, cmdOrganizer}) later->setEnabled(false);
+  for (QPushButton* later : {cmdPrintTheCalendar, cmdOrganizer}) later->setEnabled(false);
 
   // Geometry: a wall calendar in the middle, the smaller months at its sides, the date line
   // below it and the buttons at the foot.
@@ -183,6 +185,7 @@ void Form1::Connect_Controls() {
   on_click(CmdConvert, &Form1::Cal_Conversion);
   connect(cmdDisplayMonthOnCalendar, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmSelectMonth>()); });
   connect(cmdFindADatesWeekday, &QPushButton::clicked, this, [] { Window<frmFindADate>().show(); });
+  connect(cmdFindHolidayDates, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmFindAHoliday>()); });
   connect(cmdExit, &QPushButton::clicked, this, [this] { Terminate_This_Program("cmdEXIT_Click()"); });
 
   menu->On("mnuExit", [this] { Terminate_This_Program("mnuExit"); });
@@ -195,6 +198,8 @@ void Form1::Connect_Controls() {
   menu->On("mnuLargeWindow", [this] { Activate_Large_Calendar(); });
   menu->On("mnuSelect", [] { Show_In_Front(Window<frmSelectMonth>()); });
   menu->On("mnuFindADatesWeekday", [] { Window<frmFindADate>().show(); });
+  menu->On("mnuFindTimeLengthBetweenDates", [] { Show_In_Front(Window<frmFindDateDifference>()); });
+  menu->On("mnuFindHolidayDates", [] { Show_In_Front(Window<frmFindAHoliday>()); });
   menu->On("mnuLicense", [] { Window<frmLiscense>().show(); });
   menu->On("mnuAbout", [] { Window<frmAbout>().show(); });
 }
@@ -296,6 +301,7 @@ void Form1::Show_Stepped_Month(long long month, long long year, const std::strin
   Draw_Month(first_weekday, length, prior_length);
   large.Display_TaskList(style);
   Display_Side_Calendars(month_name, year_text, style);
+  Display_Holidays_On_Calendar(style);
 }
 
 void Form1::Display_Side_Calendars(const Value& Month_Name, const Value& Year_, const std::string& CalStyle) {

@@ -14,6 +14,7 @@
 #include "calendar/MenuTree.h"
 #include "core/value.h"
 #include "engine/calendar_engine.h"
+#include "holidays/holiday_rules.h"
 
 namespace orrivane {
 
@@ -80,6 +81,13 @@ class Form1 : public QMainWindow {
   void Cal_Conversion();
   void Convert(const std::string& Calling_Sub_Origin);
 
+  // ---- Holidays on the calendar ------------------------------------------------------------
+  // Writes the holidays of the days on show into the holiday cells of the large calendar.
+  void Display_Holidays_On_Calendar(const std::string& CalStyle);
+  // The keeper of the holiday table: "Holiday Name", "Holiday Date", "Holiday Month", 51 each.
+  Value Store_Holiday_Data_For_Year(const std::string& Array_Name, int Element_Number,
+                                    const std::string& Action_To_Perform, const Value& value = {});
+
   // ---- Colours -----------------------------------------------------------------------------
   int Current_Month_Color(const std::string& Action_To_Perform, int value = 0);
   void Set_Current_Month_Calendar_Colors();
@@ -108,6 +116,7 @@ class Form1 : public QMainWindow {
   int month_color_ = 0;
   Value cal_style_;
   Value date_string_;
+  holidays::Holiday_Data_Keeper holiday_table_;
 };
 
 }  // namespace orrivane

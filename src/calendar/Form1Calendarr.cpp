@@ -6,6 +6,7 @@
 #include "calendar/frmDateConversion.h"
 #include "calendar/frmFindADate.h"
 #include "calendar/frmLargeCalendar.h"
+#include "holidays/frmFindAHoliday.h"
 #include "core/text.h"
 #include "engine/calendar_engine.h"
 #include "organizer/date_time_text.h"
@@ -82,6 +83,13 @@ int Form1::Calendarr(const std::string& CallingSubOrigin) {
   } else if (CallingSubOrigin == "Display_Todays_Date()") {
     date = engine::Calendarr_Date_From_System_Date(Machine().System_Date());
     draw = true;
+  } else if (CallingSubOrigin == "frmFindAHoliday.Display_Holiday_On_Calendar") {
+    frmFindAHoliday& find = Window<frmFindAHoliday>();
+    date = engine::Calendarr_Date_From_Year(find.Selected_Holiday_Sent_To_Calendar("Get Month", "null").text(),
+                                            find.Selected_Holiday_Sent_To_Calendar("Get Date", "null").whole(),
+                                            find.Selected_Holiday_Sent_To_Calendar("Get Year", "null").whole(),
+                                            CalendarStyle::Gregorian);
+    draw = true;
   } else {
     return 0;  // an identity that names no caller selects nothing
   }
@@ -110,6 +118,7 @@ void Form1::Draw_Selected_Date(const engine::CalendarrDate& date) {
   large.Show_Task_List_Choice(date.style == CalendarStyle::Gregorian);
   large.Display_TaskList(style);
   Display_Side_Calendars(date.month, year, style);
+  Display_Holidays_On_Calendar(style);
   Format_Day_Of_Week_Label(date.month, date.date, date.year(), style, "Form1.Calendarr");
 
   const std::string shown = Shown_Date_Text(date.month, date.date, date.year());

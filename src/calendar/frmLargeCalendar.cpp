@@ -9,6 +9,8 @@
 #include "calendar/frmFindADate.h"
 #include "calendar/frmSelectMonth.h"
 #include "calendar/task_overlay.h"
+#include "elapsed/frmFindDateDifference.h"
+#include "holidays/frmFindAHoliday.h"
 #include "shell/frmAbout.h"
 #include "shell/frmLiscense.h"
 #include "core/sequential_file.h"
@@ -66,7 +68,7 @@ constexpr MenuEntry kLargeCalendarMenu[] = {
 constexpr const char* kNotYetAvailable[] = {
     "mnuNewLog", "mnuOpenLog", "mnuSaveLog", "mnuSaveLogAs", "mnuPrintLog", "mnuPrintCalendar",
     "mnuTaskEventInfo", "mnuAddNewTaskEventToLog", "mnuAddNewGroupMember", "mnuDeleteATaskEvent",
-    "mnuDeleteGroupMember", "mnuFindHolidayDates", "mnuSchedulerReminder", "mnuFindTimeLengthBetweenDates",
+    "mnuDeleteGroupMember", "mnuSchedulerReminder",
     "mnuAdd", "mnuChange", "mnuDelete", "mnuContents",
 };
 
@@ -125,6 +127,12 @@ void frmLargeCalendar::Build_Controls() {
     cboAppointments[i]->setObjectName(controls::Array_Name("cboAppointments", i));
     cboAppointments[i]->hide();
   }
+  for (int i = 0; i < 42; ++i) {
+    lblCalHoliday[i] = Make_Label(body, controls::Array_Name("lblCalHoliday", i).toUtf8().constData());
+    lblCalHoliday[i]->setWordWrap(true);
+    lblCalHoliday[i]->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    controls::Set_Fore_Color(lblCalHoliday[i], 0x000080);  // dark red
+  }
   cmdPriorMonth = Make_Button(body, "cmdPriorMonth", "<< Prior Month");
   cmdNextMonth = Make_Button(body, "cmdNextMonth", "Next Month >>");
   cmdExit = Make_Button(body, "cmdExit", "EXIT");
@@ -157,6 +165,8 @@ void frmLargeCalendar::Connect_Controls() {
   menu->On("mnuSmallWindow", [this] { Activate_Form1(); });
   menu->On("mnuSelect", [] { Show_In_Front(Window<frmSelectMonth>()); });
   menu->On("mnuFindADatesWeekday", [] { Window<frmFindADate>().show(); });
+  menu->On("mnuFindTimeLengthBetweenDates", [] { Show_In_Front(Window<frmFindDateDifference>()); });
+  menu->On("mnuFindHolidayDates", [] { Show_In_Front(Window<frmFindAHoliday>()); });
   menu->On("mnuLicense", [] { Window<frmLiscense>().show(); });
   menu->On("mnuAbout", [] { Window<frmAbout>().show(); });
   connect(cboShowTaskListFor, &QComboBox::activated, this, [this] { Refresh_Calendar_TaskList(); });
@@ -295,11 +305,18 @@ void frmLargeCalendar::Place_Controls() {
   cmdNextMonth->setGeometry(grid_x + grid_w - 160, h - 48, 160, 34);
   cmdExit->setGeometry(w - margin - side, h - 48, side, 34);
 
-  // Each day's list of tasks lies over the lower part of its cell.
+  // Each day's list of tasks lies over the lower part of its cell, its holiday just above.
+  QFont small = lblCalHoliday[0]->font();
+  small.setPixelSize(11);
   for (int i = 0; i < 42; ++i) {
     const QRect cell = face.lblCalDate[i]->geometry();
     cboAppointments[i]->setGeometry(cell.x() + 2, cell.bottom() - 26, cell.width() - 4, 24);
     cboAppointments[i]->raise();
+    const int above_list = cell.bottom() - 28;
+    const int below_date = cell.y() + std::max(16, cell.height() / 3);
+    lblCalHoliday[i]->setFont(small);
+    lblCalHoliday[i]->setGeometry(cell.x() + 4, below_date, cell.width() - 8, std::max(14, above_list - below_date));
+    lblCalHoliday[i]->raise();
   }
 }
 

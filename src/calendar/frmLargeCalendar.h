@@ -22,6 +22,7 @@ class frmLargeCalendar : public QMainWindow {
 
   CalendarFace face;
   std::array<QComboBox*, 42> cboAppointments{};
+  std::array<QLabel*, 42> lblCalHoliday{};  // the holiday of each day cell, in small text
   QComboBox* cboShowTaskListFor;
   QLabel* Label1;
   QLabel* lblMonthNumber;

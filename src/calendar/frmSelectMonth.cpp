@@ -141,6 +141,7 @@ void frmSelectMonth::Display_Month(const std::string& month, long long year, con
 
   large.Display_TaskList(style);
   form1.Display_Side_Calendars(controls::Caption(form1.lblStoreMonth), controls::Caption(form1.lblStoreYear), style);
+  form1.Display_Holidays_On_Calendar(style);
 }
 
 }  // namespace orrivane

@@ -9,6 +9,8 @@
 #include "calendar/frmFindADate.h"
 #include "calendar/frmLargeCalendar.h"
 #include "calendar/frmSelectMonth.h"
+#include "elapsed/frmFindDateDifference.h"
+#include "holidays/frmFindAHoliday.h"
 #include "platform/window_registry.h"
 #include "shell/frmAbout.h"
 #include "shell/frmLiscense.h"
@@ -49,6 +51,14 @@ TEST_F(Screenshots, TheCalendarWindowsAndTheAboutWindow) {
   Keep(Window<frmDateConversion>(), "frmDateConversion");
   Keep(Window<frmSelectMonth>(), "frmSelectMonth");
   Keep(Window<frmFindADate>(), "frmFindADate");
+  Keep(Window<frmFindDateDifference>(), "frmFindDateDifference");
+  frmFindAHoliday& find = Window<frmFindAHoliday>();
+  find.cboHoliday->setCurrentIndex(find.cboHoliday->findText("Easter"));
+  find.txtFromYear->setText("2024");
+  find.cmdSelect->click();
+  find.optDisplayAllByYear_Click();
+  find.cmdSelect->click();
+  Keep(find, "frmFindAHoliday");
 }
 
 }  // namespace

@@ -1,0 +1,467 @@
+#include "holidays/frmFindAHoliday.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <algorithm>
+
+#include "calendar/Form1.h"
+#include "calendar/frmLargeCalendar.h"
+#include "core/text.h"
+#include "holidays/holiday_list_file.h"
+#include "holidays/holiday_list_print.h"
+#include "platform/controls.h"
+#include "platform/platform.h"
+#include "platform/window_registry.h"
+#include "shell/frmOpenFile.h"
+#include "shell/frmSaveFile.h"
+
+namespace orrivane {
+
+namespace {
+
+using platform::Machine;
+
+constexpr char kCalendarCaller[] = "frmFindAHoliday.Display_Holiday_On_Calendar";
+constexpr char kCallerName[] = "frmFindAHoliday";
+// The system's colour of a text box's face.
+constexpr unsigned kWindowBackground = 0x80000005;
+// Lines a batch: a request of a thousand years of every holiday fits in one, and a request of
+// the whole reach yields about fifty times on its way.
+constexpr std::size_t kLinesPerBatch = 50000;
+
+constexpr MenuEntry kMenu[] = {
+    {"", "mnuFile", "&File", ""},
+    {"mnuFile", "mnuSaveList", "Save List...", ""},
+    {"mnuFile", "mnuOpenFile", "Open File...", ""},
+    {"mnuFile", "mnuPrintHolidayList", "Print Holiday List", ""},
+    {"mnuFile", "mnuCloseWindow", "Close Window", ""},
+    {"", "mnuList", "&List", ""},
+    {"mnuList", "mnuAddHolidayDateToList", "Add Holiday Date To List", ""},
+    {"mnuList", "mnuDisplaySelectedOnCalendar", "Display Selected On Calendar", ""},
+    {"mnuList", "mnuRemoveSelected", "Remove Selected", ""},
+    {"mnuList", "mnuClearList", "Clear List", ""},
+};
+
+// Buttons and entries that wait for a selected line, and for a list with lines.
+constexpr const char* kSelectedLineCommands[] = {"cmdCalendar", "mnuDisplaySelectedOnCalendar", "cmdRemoveItem",
+                                                 "mnuRemoveSelected"};
+constexpr const char* kFilledListCommands[] = {"cmdSave", "mnuSaveList", "cmdClear", "mnuClearList",
+                                               "mnuPrintHolidayList"};
+
+QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
+  auto* label = new QLabel(caption, parent);
+  label->setObjectName(name);
+  return label;
+}
+
+QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  return button;
+}
+
+QLineEdit* Make_Text_Box(QWidget* parent, const char* name) {
+  auto* box = new QLineEdit(parent);
+  box->setObjectName(name);
+  return box;
+}
+
+// A text box's face in a program colour, kept readable as the program reads colours back.
+void Set_Text_Box_Color(QLineEdit* box, unsigned colour) {
+  box->setProperty("BackColor", QVariant::fromValue(colour));
+  QPalette palette = box->palette();
+  const QPalette standard = QApplication::palette();
+  palette.setColor(QPalette::Base, colour == kWindowBackground ? standard.color(QPalette::Base)
+                                                               : controls::To_QColor(colour));
+  box->setPalette(palette);
+}
+
+std::string Text_Of(const QLineEdit* box) { return box->text().toStdString(); }
+
+void Exclamation(const holidays::Holiday_Message& message) {
+  Machine().Message_Box(message.text, platform::vbOKOnly, platform::vbExclamation, message.title);
+}
+
+}  // namespace
+
+// ---- The feed of lines ------------------------------------------------------------------------
+
+HolidayListFeed::HolidayListFeed(frmFindAHoliday& window) : window_(window) { batch_.reserve(1024); }
+
+HolidayListFeed::~HolidayListFeed() {
+  if (yielded_) window_.Set_Busy(false);
+}
+
+void HolidayListFeed::Add_List_Line(std::string line) {
+  batch_.push_back(std::move(line));
+  if (batch_.size() < kLinesPerBatch) return;
+  Flush();
+  if (!yielded_) window_.Set_Busy(true);
+  yielded_ = true;
+  Machine().Yield();
+}
+
+void HolidayListFeed::Finish() { Flush(); }
+
+void HolidayListFeed::Flush() {
+  window_.lstListHolidayDates_Lines->Append(batch_);
+  batch_.clear();
+  controls::Set_Caption(window_.lblTotalResultsListed, std::to_string(window_.List_Count()));
+}
+
+// ---- The window -------------------------------------------------------------------------------
+
+frmFindAHoliday::frmFindAHoliday() {
+  setObjectName("frmFindAHoliday");
+  setWindowTitle("Find The Date of a Holiday");
+  Build_Controls();
+  Build_Menu();
+  Place_Controls();
+  Connect_Controls();
+}
+
+void frmFindAHoliday::Build_Controls() {
+  auto* body = new QWidget(this);
+  setCentralWidget(body);
+  fraByHoliday = new QGroupBox(body);
+  fraByHoliday->setObjectName("fraByHoliday");
+  optByHoliday = new QRadioButton("By Holiday:", fraByHoliday);
+  optByHoliday->setObjectName("optByHoliday");
+  cboHoliday = new QComboBox(fraByHoliday);
+  cboHoliday->setObjectName("cboHoliday");
+  std::vector<std::string> names;
+  for (int h = 0; h < holidays::kHolidayCount; ++h) names.emplace_back(holidays::Holiday_Name(h));
+  std::sort(names.begin(), names.end());
+  for (const std::string& name : names) cboHoliday->addItem(QString::fromStdString(name));
+  cboHoliday->setMaxVisibleItems(holidays::kHolidayCount);
+  cboHoliday->setCurrentIndex(-1);
+
+  fraDisplayAllByYear = new QGroupBox(body);
+  fraDisplayAllByYear->setObjectName("fraDisplayAllByYear");
+  optDisplayAllByYear = new QRadioButton("Display All By Year", fraDisplayAllByYear);
+  optDisplayAllByYear->setObjectName("optDisplayAllByYear");
+  // Each option sits in a frame of its own, so each clears the other by hand.
+  for (QRadioButton* option : {optByHoliday, optDisplayAllByYear}) option->setAutoExclusive(false);
+  optByHoliday->setChecked(true);
+
+  lblFrom = Make_Label(body, "lblFrom", "From:");
+  txtFromYear = Make_Text_Box(body, "txtFromYear");
+  chkSelectRangeOfYears = new QCheckBox("Select Range of Years", body);
+  chkSelectRangeOfYears->setObjectName("chkSelectRangeOfYears");
+  txtToYear = Make_Text_Box(body, "txtToYear");
+  txtToYear->setEnabled(false);
+  Set_Text_Box_Color(txtToYear, controls::kButtonFace);
+  cmdSelect = Make_Button(body, "cmdSelect", "Display");
+
+  lstListHolidayDates = new QListView(body);
+  lstListHolidayDates->setObjectName("lstListHolidayDates");
+  lstListHolidayDates_Lines = new HolidayListModel(this);
+  lstListHolidayDates->setModel(lstListHolidayDates_Lines);
+  // Every line is one row of text: the view need not measure millions of them.
+  lstListHolidayDates->setUniformItemSizes(true);
+  lstListHolidayDates->setSelectionMode(QAbstractItemView::SingleSelection);
+  lstListHolidayDates->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  lblNewCaption = Make_Label(body, "lblNewCaption", "New:");
+  lblNew = Make_Label(body, "lblNew");
+  lblTotalResultsListedCaption = Make_Label(body, "lblTotalResultsListedCaption", "Total Results Listed:");
+  lblTotalResultsListed = Make_Label(body, "lblTotalResultsListed");
+
+  cmdCalendar = Make_Button(body, "cmdCalendar", "Calendar");
+  cmdRemoveItem = Make_Button(body, "cmdRemoveItem", "Remove");
+  cmdSave = Make_Button(body, "cmdSave", "Save List...");
+  cmdClear = Make_Button(body, "cmdClear", "Clear");
+  cmdClose = Make_Button(body, "cmdClose", "Close");
+}
+
+void frmFindAHoliday::Build_Menu() {
+  menu = std::make_unique<MenuTree>(menuBar(), kMenu);
+  Enable_Commands(kSelectedLineCommands, false);
+  Enable_Commands(kFilledListCommands, false);
+}
+
+void frmFindAHoliday::Place_Controls() {
+  setFixedSize(660, 470);
+  // Options and the check box are as wide as their captions: a click beside a caption is no
+  // click on it.
+  fraByHoliday->setGeometry(12, 8, 300, 84);
+  optByHoliday->setGeometry(12, 18, optByHoliday->sizeHint().width(), 24);
+  cboHoliday->setGeometry(12, 46, 276, 28);
+  fraDisplayAllByYear->setGeometry(12, 98, 300, 50);
+  optDisplayAllByYear->setGeometry(12, 16, optDisplayAllByYear->sizeHint().width(), 24);
+  lblFrom->setGeometry(16, 164, 52, 26);
+  txtFromYear->setGeometry(70, 164, 100, 26);
+  chkSelectRangeOfYears->setGeometry(16, 200, chkSelectRangeOfYears->sizeHint().width(), 26);
+  txtToYear->setGeometry(chkSelectRangeOfYears->geometry().right() + 8, 200, 100, 26);
+  cmdSelect->setGeometry(12, 246, 300, 34);
+
+  lstListHolidayDates->setGeometry(326, 14, 322, 300);
+  lblNewCaption->setGeometry(326, 320, 40, 22);
+  lblNew->setGeometry(366, 320, 80, 22);
+  lblTotalResultsListedCaption->setGeometry(450, 320, 140, 22);
+  lblTotalResultsListed->setGeometry(590, 320, 70, 22);
+
+  QPushButton* const row[] = {cmdCalendar, cmdRemoveItem, cmdSave, cmdClear, cmdClose};
+  for (int i = 0; i < 5; ++i) row[i]->setGeometry(12 + i * 128, 372, 120, 34);
+}
+
+void frmFindAHoliday::Connect_Controls() {
+  connect(optByHoliday, &QRadioButton::clicked, this, [this] { optByHoliday_Click(); });
+  connect(optDisplayAllByYear, &QRadioButton::clicked, this, [this] { optDisplayAllByYear_Click(); });
+  connect(chkSelectRangeOfYears, &QCheckBox::clicked, this, [this] { chkSelectRangeOfYears_Click(); });
+  connect(lstListHolidayDates->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+    if (List_Index() >= 0) lstListHolidayDates_Click();
+  });
+  connect(cmdSelect, &QPushButton::clicked, this, [this] { Display_Holiday("cmdSelect_Click"); });
+  connect(cmdCalendar, &QPushButton::clicked, this, [this] { Display_Holiday_On_Calendar("cmdCalendar_Click()"); });
+  connect(cmdRemoveItem, &QPushButton::clicked, this, [this] { Remove_A_List_Item(); });
+  connect(cmdSave, &QPushButton::clicked, this, [this] { Activate_Save_File_Window(); });
+  connect(cmdClear, &QPushButton::clicked, this, [this] { Clear_lstListHolidayDates(); });
+  connect(cmdClose, &QPushButton::clicked, this, [this] { Close_Window(); });
+
+  menu->On("mnuSaveList", [this] { Activate_Save_File_Window(); });
+  menu->On("mnuOpenFile", [this] { mnuOpenFile_Click(); });
+  menu->On("mnuPrintHolidayList", [this] { mnuPrintHolidayList_Click(); });
+  menu->On("mnuCloseWindow", [this] { Close_Window(); });
+  menu->On("mnuAddHolidayDateToList", [this] { Display_Holiday("mnuAddHolidayDateToList_Click"); });
+  menu->On("mnuDisplaySelectedOnCalendar", [this] { Display_Holiday_On_Calendar("cmdCalendar_Click()"); });
+  menu->On("mnuRemoveSelected", [this] { Remove_A_List_Item(); });
+  menu->On("mnuClearList", [this] { Clear_lstListHolidayDates(); });
+}
+
+void frmFindAHoliday::Enable_Commands(std::span<const char* const> names, bool enabled) {
+  for (const char* name : names) {
+    if (auto* button = findChild<QPushButton*>(name)) {
+      button->setEnabled(enabled);
+    } else {
+      menu->Action(name)->setEnabled(enabled);
+    }
+  }
+}
+
+void frmFindAHoliday::Enable_Filled_List_Commands() { Enable_Commands(kFilledListCommands, true); }
+
+void frmFindAHoliday::Set_Busy(bool busy) {
+  busy_ = busy;
+  centralWidget()->setEnabled(!busy);
+  menuBar()->setEnabled(!busy);
+}
+
+void frmFindAHoliday::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (!busy_) Close_Window();
+}
+
+// ---- Requests ---------------------------------------------------------------------------------
+
+void frmFindAHoliday::Display_Holiday(const std::string& Calling_Sub) {
+  static_cast<void>(Calling_Sub);  // a label only: both ways of asking are answered alike
+  const Value from_year = Text_Of(txtFromYear);
+  const Value to_year = Text_Of(txtToYear);
+  if (optByHoliday->isChecked()) {
+    Value last_year = to_year;
+    Display_Holiday_II(cboHoliday->currentText().toStdString(), from_year, last_year,
+                       std::string(holidays::kFindAHolidayCaller));
+  } else if (optDisplayAllByYear->isChecked()) {
+    Display_All_By_Year(from_year, to_year);
+  }
+}
+
+void frmFindAHoliday::Display_Holiday_II(const std::string& HolidaySelection, const Value& FromYear, Value& ToYear,
+                                         const std::string& Calling_Sub_Origin) {
+  const holidays::Holiday_Window_Options options{optByHoliday->isChecked(), chkSelectRangeOfYears->isChecked()};
+  holidays::Holiday_Answer answer;
+  {
+    HolidayListFeed feed(*this);
+    answer = holidays::Display_Holiday_II(HolidaySelection, FromYear, ToYear, Calling_Sub_Origin, options, feed);
+    feed.Finish();
+  }
+  if (answer.message_wanted) Exclamation(holidays::Holiday_Error_Message(answer.error_code, HolidaySelection));
+  if (answer.error_code != holidays::kHolidayNoError) return;
+  InterFunction_Counter("Add", 1);
+  if (Calling_Sub_Origin != holidays::kFindAHolidayCaller) return;
+  Enable_Filled_List_Commands();
+  Show_List_Counts(answer.lines);
+}
+
+void frmFindAHoliday::Display_All_By_Year(const Value& FromYear, const Value& ToYear) {
+  const holidays::All_Holidays_Years years =
+      holidays::Check_Years_For_All_Holidays(FromYear, ToYear, chkSelectRangeOfYears->isChecked());
+  if (years.error_code != holidays::kHolidayNoError) {
+    Exclamation(holidays::All_Holidays_Error_Message(years.error_code));
+    return;
+  }
+  InterFunction_Counter("Set Equal To", 0);
+  std::int64_t added = 0;
+  {
+    HolidayListFeed feed(*this);
+    added = holidays::Display_All_Holidays_For_Years(years.from, years.to, feed);
+    feed.Finish();
+  }
+  // Each holiday that passed its checks counts one, and enables what a filled list allows.
+  InterFunction_Counter("Add", static_cast<double>(added));
+  if (added > 0) Enable_Filled_List_Commands();
+  Show_List_Counts(static_cast<std::int64_t>(InterFunction_Counter("Add", 0)));
+}
+
+double frmFindAHoliday::InterFunction_Counter(const std::string& Action, double Numberr) {
+  return counter_.Apply(Action, Numberr);
+}
+
+// ---- The list ---------------------------------------------------------------------------------
+
+int frmFindAHoliday::List_Index() const {
+  const QModelIndexList chosen = lstListHolidayDates->selectionModel()->selectedIndexes();
+  return chosen.isEmpty() ? -1 : chosen.front().row();
+}
+
+void frmFindAHoliday::Set_List_Index(int index) {
+  lstListHolidayDates->setCurrentIndex(lstListHolidayDates_Lines->index(index));
+}
+
+void frmFindAHoliday::Empty_List() {
+  lstListHolidayDates->selectionModel()->clear();
+  lstListHolidayDates_Lines->Clear();
+}
+
+void frmFindAHoliday::Show_List_Counts(std::int64_t added) {
+  controls::Set_Caption(lblNew, std::to_string(added));
+  controls::Set_Caption(lblTotalResultsListed, std::to_string(List_Count()));
+}
+
+void frmFindAHoliday::Close_Window() {
+  hide();
+  Clear_lstListHolidayDates();
+}
+
+void frmFindAHoliday::Clear_lstListHolidayDates() {
+  Empty_List();
+  Show_List_Counts(0);
+  Enable_Commands(kFilledListCommands, false);
+  Enable_Commands(kSelectedLineCommands, false);
+}
+
+void frmFindAHoliday::Remove_A_List_Item() {
+  const int selected = List_Index();
+  if (selected < 0) return;
+  lstListHolidayDates_Lines->Remove(static_cast<std::size_t>(selected));
+  // No line stays selected after a removal, not even the one that moved up into its place.
+  lstListHolidayDates->selectionModel()->clear();
+  Show_List_Counts(0);
+  if (List_Count() == 0) Enable_Commands(kFilledListCommands, false);
+  Enable_Commands(kSelectedLineCommands, false);
+}
+
+void frmFindAHoliday::Activate_Save_File_Window() {
+  // The window is shown first and only then told its caller and the name to offer: the first
+  // time in a run it opens blank and its Save does nothing. This order is kept on purpose.
+  frmSaveFile& save = Window<frmSaveFile>();
+  save.Show_Modal();
+  controls::Set_Caption(save.lblStoreCallingProcedure, kCallerName);
+  save.txtFileName->setText(QString::fromUtf8(holidays::kDefaultHolidayListName.data(),
+                                              static_cast<qsizetype>(holidays::kDefaultHolidayListName.size())));
+}
+
+// ---- The way to the calendar --------------------------------------------------------------------
+
+Value frmFindAHoliday::Selected_Holiday_Sent_To_Calendar(const std::string& Part_Of_String,
+                                                         const Value& Contents_Of_String) {
+  struct Part {
+    const char* write;
+    const char* get;
+    Value frmFindAHoliday::*kept;
+  };
+  static constexpr Part kParts[] = {
+      {"Write Month", "Get Month", &frmFindAHoliday::sent_month_},
+      {"Write Date", "Get Date", &frmFindAHoliday::sent_date_},
+      {"Write Year", "Get Year", &frmFindAHoliday::sent_year_},
+  };
+  for (const Part& part : kParts) {
+    if (Part_Of_String == part.write) this->*part.kept = Contents_Of_String;
+    if (Part_Of_String == part.get) return this->*part.kept;
+  }
+  return {};
+}
+
+void frmFindAHoliday::Display_Holiday_On_Calendar(const std::string& Calling_Sub) {
+  static_cast<void>(Calling_Sub);  // a label only
+  const int selected = List_Index();
+  if (selected < 0) return;
+  const holidays::Holiday_Line_Date date =
+      holidays::Date_Of_Holiday_List_Line(List_Line(static_cast<std::size_t>(selected)));
+  Selected_Holiday_Sent_To_Calendar("Write Month", date.month);
+  Selected_Holiday_Sent_To_Calendar("Write Date", date.date);
+  Selected_Holiday_Sent_To_Calendar("Write Year", date.year);
+  Form1& main = Window<Form1>();
+  main.Calendarr(kCalendarCaller);
+  frmLargeCalendar& large = Window<frmLargeCalendar>();
+  if (main.isVisible()) {
+    main.raise();
+    main.activateWindow();
+  } else if (large.isVisible()) {
+    large.raise();
+    large.activateWindow();
+  }
+}
+
+// ---- Events ---------------------------------------------------------------------------------------
+
+void frmFindAHoliday::optByHoliday_Click() {
+  optByHoliday->setChecked(true);
+  optDisplayAllByYear->setChecked(false);
+  cboHoliday->setEnabled(true);
+}
+
+void frmFindAHoliday::optDisplayAllByYear_Click() {
+  optDisplayAllByYear->setChecked(true);
+  optByHoliday->setChecked(false);
+  cboHoliday->setEnabled(false);
+}
+
+void frmFindAHoliday::chkSelectRangeOfYears_Click() {
+  const bool range = chkSelectRangeOfYears->isChecked();
+  txtToYear->setEnabled(range);
+  Set_Text_Box_Color(txtToYear, range ? kWindowBackground : controls::kButtonFace);
+}
+
+void frmFindAHoliday::lstListHolidayDates_Click() { Enable_Commands(kSelectedLineCommands, true); }
+
+void frmFindAHoliday::mnuOpenFile_Click() {
+  frmOpenFile& open = Window<frmOpenFile>();
+  open.filFileOpen->Set_Pattern(QString::fromUtf8(holidays::kHolidayListPattern.data(),
+                                                  static_cast<qsizetype>(holidays::kHolidayListPattern.size())));
+  controls::Set_Caption(open.lblStoreCallingProcedure, kCallerName);
+  open.Show_Modal();
+}
+
+void frmFindAHoliday::mnuPrintHolidayList_Click() {
+  const holidays::Print_Question question = holidays::Holiday_List_Print_Question(List_Count());
+  const int buttons = question.yes_no ? platform::vbYesNo : platform::vbOKCancel;
+  const int icon = question.yes_no ? platform::vbQuestion : platform::vbNoIcon;
+  const int answer = Machine().Message_Box(question.text, buttons, icon, question.title);
+  if (answer == platform::vbNo || answer == platform::vbCancel) return;
+  Print_Holiday_List();
+}
+
+void frmFindAHoliday::Print_Holiday_List() {
+  const std::size_t count = List_Count();
+  const holidays::Print_Place heading = holidays::Holiday_List_Print_Heading_Place();
+  std::size_t index = 0;
+  for (std::size_t job = 0; job < holidays::Holiday_List_Print_Jobs(count); ++job) {
+    platform::TextPage page;
+    if (job == heading.job) {
+      page.push_back({heading.x_twips, heading.y_twips,
+                      holidays::Holiday_List_Print_Heading(controls::Caption(lblTotalResultsListed))});
+    }
+    for (; index < count; ++index) {
+      const holidays::Print_Place place = holidays::Holiday_List_Print_Place(index);
+      if (place.job != job) break;
+      const std::string_view line = lstListHolidayDates_Lines->Line(index);
+      page.push_back({place.x_twips, place.y_twips,
+                      QString::fromLatin1(line.data(), static_cast<qsizetype>(line.size())).toStdString()});
+    }
+    Machine().Print_Text({page});
+  }
+}
+
+}  // namespace orrivane

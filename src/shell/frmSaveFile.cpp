@@ -1,0 +1,135 @@
+#include "shell/frmSaveFile.h"
+
+#include <QFile>
+
+#include "core/sequential_file.h"
+#include "holidays/frmFindAHoliday.h"
+#include "holidays/holiday_list_file.h"
+#include "platform/controls.h"
+#include "platform/platform.h"
+#include "platform/window_registry.h"
+#include "shell/file_names.h"
+
+namespace orrivane {
+
+namespace {
+
+using platform::Machine;
+
+// The callers this window serves, by the exact name each writes in lblStoreCallingProcedure.
+// The log's caller has its place here; writing a log (Save_Schedule) comes with the Organizer,
+// and until then its name selects nothing.
+struct Caller {
+  const char* name;
+  void (frmSaveFile::*procedure)();
+};
+constexpr Caller kCallers[] = {
+    {"frmFindAHoliday", &frmSaveFile::Save_Holiday_List},
+    {"frmScheduler_Reminder", nullptr},
+};
+
+QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
+  auto* label = new QLabel(caption, parent);
+  label->setObjectName(name);
+  return label;
+}
+
+QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  return button;
+}
+
+void Show_Message(const std::string& title, const std::string& text, int buttons, int icon) {
+  Machine().Message_Box(text, buttons, icon, title);
+}
+
+}  // namespace
+
+frmSaveFile::frmSaveFile() {
+  setObjectName("frmSaveFile");
+  setWindowTitle("Save As");
+  setModal(true);
+  Build_Controls();
+  Connect_Controls();
+}
+
+void frmSaveFile::Build_Controls() {
+  lblSaveIn = Make_Label(this, "lblSaveIn", "Save in:");
+  DirSaveIn = new DirectoryList(this);
+  DirSaveIn->setObjectName("DirSaveIn");
+  lblFileName = Make_Label(this, "lblFileName", "File name:");
+  txtFileName = new QLineEdit(this);
+  txtFileName->setObjectName("txtFileName");
+  cmdSave = Make_Button(this, "cmdSave", "Save");
+  cmdSave->setDefault(true);
+  cmdCancel = Make_Button(this, "cmdCancel", "Cancel");
+  lblStoreCallingProcedure = Make_Label(this, "lblStoreCallingProcedure");
+  lblStoreCallingProcedure->hide();
+
+  setFixedSize(420, 360);
+  lblSaveIn->setGeometry(12, 10, 396, 20);
+  DirSaveIn->setGeometry(12, 32, 396, 220);
+  lblFileName->setGeometry(12, 264, 80, 26);
+  txtFileName->setGeometry(92, 264, 316, 26);
+  cmdSave->setGeometry(212, 316, 94, 30);
+  cmdCancel->setGeometry(314, 316, 94, 30);
+}
+
+void frmSaveFile::Connect_Controls() {
+  connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+  connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
+}
+
+void frmSaveFile::Show_Modal() {
+  DirSaveIn->Refresh();
+  exec();
+}
+
+void frmSaveFile::cmdSave_Click() {
+  const std::string caller = controls::Caption(lblStoreCallingProcedure);
+  for (const Caller& known : kCallers) {
+    if (caller == known.name && known.procedure != nullptr) (this->*known.procedure)();
+  }
+}
+
+void frmSaveFile::cmdCancel_Click() { hide(); }
+
+int frmSaveFile::File_Name_Validity_Check(const std::string& FileName) const {
+  return shell::File_Name_Validity_Check(FileName);
+}
+
+void frmSaveFile::Refuse_File_Name() const {
+  const shell::File_Name_Message message = shell::Invalid_File_Name_Message();
+  Show_Message(message.title, message.text, platform::vbOKOnly, platform::vbCritical);
+}
+
+void frmSaveFile::Save_Holiday_List() {
+  const frmFindAHoliday& find = Window<frmFindAHoliday>();
+  const std::size_t count = find.List_Count();
+  const std::string name = QFile::encodeName(txtFileName->text()).toStdString();
+  if (File_Name_Validity_Check(name) == 0) {
+    Refuse_File_Name();
+    return;
+  }
+  const std::string path =
+      Join_Path(QFile::encodeName(DirSaveIn->Path()).toStdString(), holidays::Holiday_List_File_Name(name));
+  if (File_Exists(path)) {
+    const holidays::Holiday_Message question = holidays::Overwrite_Question();
+    if (Machine().Message_Box(question.text, platform::vbYesNo, platform::vbExclamation, question.title) !=
+        platform::vbYes) {
+      return;
+    }
+  }
+  holidays::Holiday_List_Writer writer(path);
+  if (!writer.Is_Open()) {
+    const holidays::Holiday_Message refusal = holidays::Invalid_File_Name_Refusal();
+    Show_Message(refusal.title, refusal.text, platform::vbOKOnly, platform::vbCritical);
+    return;
+  }
+  for (std::size_t i = 0; i < count; ++i) writer.Write_Record(find.List_Line(i));
+  writer.Close();
+  hide();
+}
+
+}  // namespace orrivane
