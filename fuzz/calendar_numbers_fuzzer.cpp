@@ -196,9 +196,9 @@ class Discarding_Receiver : public holidays::Holiday_Receiver {
   void Add_Table_Entry(const holidays::Holiday_Table_Entry& entry) override { static_cast<void>(entry); }
 };
 
-// The most years a run of holidays takes here. A run costs about 50 microseconds a line under
-// the sanitizers and does the same for every year, so a longer one only slows the search; runs
-// through the whole reach belong to the holiday tests.
+// The most years a run of holidays takes here. A run does the same for every year, so a longer
+// one only slows the search (the whole reach is 2.5 million lines, some ten seconds under the
+// sanitizers); runs through the whole reach belong to the holiday tests.
 constexpr std::int64_t kLongestRun = 40;
 
 // Within the calendar's reach a last year far from the first is moved near it. Years out of

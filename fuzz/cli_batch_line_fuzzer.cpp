@@ -22,9 +22,8 @@
 namespace {
 
 // A holidays line over the whole reach of the holiday rules, 1582 to 100100, asks for 2.5
-// million list lines, at about 50 microseconds a line under the sanitizers: minutes, for a run
-// that differs from a short one only in its length. Lines over more than 40 years are left to
-// the command's own tests.
+// million list lines: some ten seconds under the sanitizers, for a run that differs from a short
+// one only in its length. Lines over more than 40 years are left to the command's own tests.
 bool Asks_For_A_Long_List(const std::vector<std::string>& words) {
   if (words.front() != "holidays") return false;
   std::vector<double> years;
