@@ -108,7 +108,7 @@ void Check_Calendarr_Weekday(const engine::CalendarrDate& date) {
 void Calendarr(const engine::CalendarrDate& date) {
   Defined([&] { static_cast<void>(engine::Calendarr_Compute(date)); });
   Defined([&] { static_cast<void>(engine::Calendarr_Month_Grid(date)); });
-  for (int code = 0; code <= 4; ++code) static_cast<void>(engine::Calendarr_Message(code, date));
+  for (int code = 0; code <= 4; ++code) Defined([&] { static_cast<void>(engine::Calendarr_Message(code, date)); });
   Defined([&] { Check_Calendarr_Weekday(date); });
 }
 
@@ -250,10 +250,10 @@ void Keeper(Operands operands) {
   holidays::Holiday_Data_Keeper keeper;
   const int element = Whole_Int(Operand(operands, 0));
   const std::int64_t verb = Number(operands, 1);
+  const char* first = kVerbs[static_cast<std::size_t>(verb < 0 ? -(verb + 1) : verb) % kVerbs.size()];
   const Value value(Number(operands, 2));
   for (const char* array : kArrays) {
     for (std::size_t i = 0; i < kVerbs.size(); ++i) {
-      const char* first = kVerbs[static_cast<std::size_t>(verb < 0 ? -(verb + 1) : verb) % kVerbs.size()];
       Defined([&] { static_cast<void>(keeper.Store_Holiday_Data_For_Year(array, element, first, value)); });
       Defined([&] { static_cast<void>(keeper.Store_Holiday_Data_For_Year(array, element, kVerbs[i], value)); });
       Defined([&] { static_cast<void>(keeper.Store_Holiday_Data_For_Year("Other", element, kVerbs[i], value)); });
