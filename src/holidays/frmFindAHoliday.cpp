@@ -89,20 +89,33 @@ void Exclamation(const holidays::Holiday_Message& message) {
 
 HolidayListFeed::HolidayListFeed(frmFindAHoliday& window) : window_(window) { batch_.reserve(1024); }
 
-HolidayListFeed::~HolidayListFeed() {
-  if (yielded_) window_.Set_Busy(false);
-}
+HolidayListFeed::~HolidayListFeed() { Stop_Yielding(); }
 
 void HolidayListFeed::Add_List_Line(std::string line) {
   batch_.push_back(std::move(line));
   if (batch_.size() < kLinesPerBatch) return;
   Flush();
-  if (!yielded_) window_.Set_Busy(true);
-  yielded_ = true;
+  if (!yielded_) {
+    // A long request: the window takes no other order, and the list shows the lines that
+    // follow only at the end, laid out once.
+    window_.Set_Busy(true);
+    window_.lstListHolidayDates_Lines->Hold_Back(true);
+    yielded_ = true;
+  }
   Machine().Yield();
 }
 
-void HolidayListFeed::Finish() { Flush(); }
+void HolidayListFeed::Finish() {
+  Flush();
+  Stop_Yielding();
+}
+
+void HolidayListFeed::Stop_Yielding() {
+  if (!yielded_) return;
+  yielded_ = false;
+  window_.lstListHolidayDates_Lines->Hold_Back(false);
+  window_.Set_Busy(false);
+}
 
 void HolidayListFeed::Flush() {
   window_.lstListHolidayDates_Lines->Append(batch_);
@@ -181,7 +194,7 @@ void frmFindAHoliday::Build_Menu() {
 }
 
 void frmFindAHoliday::Place_Controls() {
-  setFixedSize(660, 470);
+  setFixedSize(780, 446);
   // Options and the check box are as wide as their captions: a click beside a caption is no
   // click on it.
   fraByHoliday->setGeometry(12, 8, 300, 84);
@@ -195,14 +208,14 @@ void frmFindAHoliday::Place_Controls() {
   txtToYear->setGeometry(chkSelectRangeOfYears->geometry().right() + 8, 200, 100, 26);
   cmdSelect->setGeometry(12, 246, 300, 34);
 
-  lstListHolidayDates->setGeometry(326, 14, 322, 300);
-  lblNewCaption->setGeometry(326, 320, 40, 22);
-  lblNew->setGeometry(366, 320, 80, 22);
-  lblTotalResultsListedCaption->setGeometry(450, 320, 140, 22);
-  lblTotalResultsListed->setGeometry(590, 320, 70, 22);
+  lstListHolidayDates->setGeometry(326, 14, 442, 326);
+  lblNewCaption->setGeometry(326, 346, 40, 22);
+  lblNew->setGeometry(366, 346, 110, 22);
+  lblTotalResultsListedCaption->setGeometry(500, 346, 150, 22);
+  lblTotalResultsListed->setGeometry(650, 346, 110, 22);
 
   QPushButton* const row[] = {cmdCalendar, cmdRemoveItem, cmdSave, cmdClear, cmdClose};
-  for (int i = 0; i < 5; ++i) row[i]->setGeometry(12 + i * 128, 372, 120, 34);
+  for (int i = 0; i < 5; ++i) row[i]->setGeometry(12 + i * 152, 396, 144, 34);
 }
 
 void frmFindAHoliday::Connect_Controls() {

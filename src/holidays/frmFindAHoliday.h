@@ -125,7 +125,8 @@ class frmFindAHoliday : public QMainWindow {
 
 // Lines on their way into the list of frmFindAHoliday: appended a batch at a time, and between
 // batches of a long request the window system gets its turn, so that the windows keep painting
-// while millions of lines arrive. Finish appends what is left.
+// while millions of lines arrive; the count of lines grows as they come, the list shows them at
+// the end. Finish appends what is left.
 class HolidayListFeed : public holidays::Holiday_Receiver {
  public:
   explicit HolidayListFeed(frmFindAHoliday& window);
@@ -138,6 +139,7 @@ class HolidayListFeed : public holidays::Holiday_Receiver {
 
  private:
   void Flush();
+  void Stop_Yielding();
 
   frmFindAHoliday& window_;
   std::vector<std::string> batch_;

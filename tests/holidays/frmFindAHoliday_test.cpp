@@ -483,7 +483,10 @@ TEST_F(FindAHolidayTest, ALongRequestYieldsBetweenBatchesAndTakesNoOtherOrderMea
   EXPECT_FALSE(find().Busy());
   EXPECT_TRUE(find().cmdSelect->isEnabled());
   EXPECT_EQ(find().List_Count(), std::stoul(New_Count()));
+  EXPECT_EQ(find().lstListHolidayDates_Lines->rowCount(), static_cast<int>(find().List_Count()));
   EXPECT_EQ(find().List_Line(0), "New Years Day, Saturday, January 1, 1583");
+  Select_Line(static_cast<int>(find().List_Count()) - 1);
+  EXPECT_EQ(find().List_Index(), static_cast<int>(find().List_Count()) - 1);
 }
 
 TEST_F(FindAHolidayTest, AThousandYearsComeInOneBatchWithoutYielding) {

@@ -86,15 +86,16 @@ TEST_F(frmOpenFileTest, TheFolderListLeadsFromTheRootToTheFolderAndInto) {
   Open_Window();
   From_The_Menu([this] {
     DirectoryList* folders = open().DirChooseDirectory;
-    const QString here = QDir::current().dirName();
-    int current = folders->currentRow();
+    const int current = folders->Current_Entry();
     ASSERT_GE(current, 0);
-    EXPECT_EQ(folders->item(current)->text().trimmed(), here);
-    EXPECT_EQ(folders->item(0)->text(), QDir::toNativeSeparators(QDir::rootPath()));
-    EXPECT_EQ(folders->item(current + 1)->text().trimmed(), "archive");
-    EXPECT_EQ(folders->item(current + 2)->text().trimmed(), "lists");
+    EXPECT_EQ(folders->Entry_Name(current), QDir::current().dirName());
+    EXPECT_EQ(folders->Entry_Path(current), QDir::currentPath());
+    EXPECT_EQ(folders->Entry_Name(0), QDir::toNativeSeparators(QDir::rootPath()));
+    EXPECT_EQ(folders->Entry_Name(current + 1), "archive");
+    EXPECT_EQ(folders->Entry_Name(current + 2), "lists");
+    EXPECT_EQ(folders->Entry_Count(), current + 3);
     // Opening an entry goes into it.
-    emit folders->itemActivated(folders->item(current + 2));
+    folders->Open_Entry(current + 2);
     EXPECT_EQ(folders->Path(), QDir::current().filePath("lists"));
     EXPECT_FALSE(open().cmdOpen->isEnabled());
   });

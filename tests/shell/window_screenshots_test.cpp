@@ -14,6 +14,8 @@
 #include "platform/window_registry.h"
 #include "shell/frmAbout.h"
 #include "shell/frmLiscense.h"
+#include "shell/frmOpenFile.h"
+#include "shell/frmSaveFile.h"
 #include "support/window_fixture.h"
 
 namespace orrivane {
@@ -59,6 +61,8 @@ TEST_F(Screenshots, TheCalendarWindowsAndTheAboutWindow) {
   find.optDisplayAllByYear_Click();
   find.cmdSelect->click();
   Keep(find, "frmFindAHoliday");
+  Keep(Window<frmOpenFile>(), "frmOpenFile");
+  Keep(Window<frmSaveFile>(), "frmSaveFile");
 }
 
 }  // namespace
