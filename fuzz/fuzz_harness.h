@@ -48,19 +48,6 @@ void Defined(Action&& action) {
   }
 }
 
-// The body of LLVMFuzzerTestOneInput: an exception other than RuntimeFailure is named in the
-// report instead of ending in an anonymous std::terminate.
-template <class Action>
-int Guard_Input(Action&& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure&) {
-  } catch (const std::exception& other) {
-    Finding(std::string("exception ") + typeid(other).name() + ": " + other.what());
-  }
-  return 0;
-}
-
 inline std::string_view As_Text(const std::uint8_t* data, std::size_t size) {
   return {reinterpret_cast<const char*>(data), size};
 }
@@ -148,7 +135,7 @@ inline void Run_Command_Lines(std::string_view input, std::span<const Command> c
 }
 
 // Where the scratch folders go: ORRIVANE_FUZZ_SCRATCH when set (scripts/fuzz.sh sets it, and
-// removes it afterwards, also after a finding has ended a run before its exit handlers), else
+// removes it afterwards, also after a finding has ended a run in the middle of an input), else
 // memory where the system offers it, since every input goes through the folder.
 inline std::filesystem::path Scratch_Base() {
   if (const char* chosen = std::getenv("ORRIVANE_FUZZ_SCRATCH")) return chosen;
@@ -157,19 +144,46 @@ inline std::filesystem::path Scratch_Base() {
   return std::filesystem::temp_directory_path();
 }
 
-// A folder of this process for the files a target must go through, made once, removed at exit.
-inline const std::filesystem::path& Scratch_Folder() {
-  static const std::filesystem::path folder = [] {
-    const std::filesystem::path base = Scratch_Base();
-    std::string pattern = (base / "orrivane-fuzz-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) Finding("no scratch folder");
-    std::atexit([] {
-      std::error_code ignored;
-      std::filesystem::remove_all(Scratch_Folder(), ignored);
-    });
-    return std::filesystem::path(pattern);
-  }();
+// The scratch folder of the input being run; empty while it has none.
+inline std::filesystem::path& Current_Scratch_Folder() {
+  static std::filesystem::path folder;
   return folder;
+}
+
+// The folder for the files an input must go through, made at its first use. libFuzzer ends its
+// process without running exit handlers, so the folder lives for one input only (see
+// Guard_Input).
+inline const std::filesystem::path& Scratch_Folder() {
+  std::filesystem::path& folder = Current_Scratch_Folder();
+  if (folder.empty()) {
+    std::string pattern = (Scratch_Base() / "orrivane-fuzz-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) Finding("no scratch folder");
+    folder = pattern;
+  }
+  return folder;
+}
+
+inline void Remove_Scratch_Folder() {
+  std::filesystem::path& folder = Current_Scratch_Folder();
+  if (folder.empty()) return;
+  std::error_code ignored;
+  std::filesystem::remove_all(folder, ignored);
+  folder.clear();
+}
+
+// The body of LLVMFuzzerTestOneInput: an exception other than RuntimeFailure is named in the
+// report instead of ending in an anonymous std::terminate. The files the input went through go
+// with it.
+template <class Action>
+int Guard_Input(Action&& action) {
+  try {
+    action();
+  } catch (const RuntimeFailure&) {
+  } catch (const std::exception& other) {
+    Finding(std::string("exception ") + typeid(other).name() + ": " + other.what());
+  }
+  Remove_Scratch_Folder();
+  return 0;
 }
 
 // Writes the bytes to a file of the scratch folder and answers its path.
