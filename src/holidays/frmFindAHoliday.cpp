@@ -118,6 +118,7 @@ void HolidayListFeed::Stop_Yielding() {
 }
 
 void HolidayListFeed::Flush() {
+  if (batch_.empty()) return;
   window_.lstListHolidayDates_Lines->Append(batch_);
   batch_.clear();
   controls::Set_Caption(window_.lblTotalResultsListed, std::to_string(window_.List_Count()));

@@ -189,6 +189,7 @@ TEST_F(FindAHolidayTest, AHolidayBeforeItsFirstYearIsRefusedByNameAndMissingFrom
   EXPECT_EQ(machine().Messages()[0].buttons, platform::vbOKOnly);
   EXPECT_EQ(find().List_Count(), 0u);
   EXPECT_EQ(New_Count(), "");
+  EXPECT_EQ(Total_Count(), "");  // a refused request leaves the counts as they stood
 
   Ask_All_By_Year("1982");
   EXPECT_EQ(New_Count(), "24");
