@@ -195,7 +195,7 @@ void frmFindAHoliday::Build_Menu() {
 }
 
 void frmFindAHoliday::Place_Controls() {
-  setFixedSize(780, 446);
+  setFixedSize(780, 470);
   // Options and the check box are as wide as their captions: a click beside a caption is no
   // click on it.
   fraByHoliday->setGeometry(12, 8, 300, 84);
