@@ -6,11 +6,7 @@ namespace orrivane {
 
 namespace {
 
-QLabel* Make_Label(QWidget* parent, const QString& name, const QString& caption = {}) {
-  auto* label = new QLabel(caption, parent);
-  label->setObjectName(name);
-  return label;
-}
+using controls::Make_Label;
 
 void Make_Array(QWidget* parent, std::array<QLabel*, 42>& cells, const char* name) {
   for (int i = 0; i < 42; ++i) cells[i] = Make_Label(parent, controls::Array_Name(name, i));

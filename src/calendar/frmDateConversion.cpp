@@ -8,11 +8,7 @@ namespace orrivane {
 
 namespace {
 
-QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
-  auto* label = new QLabel(caption, parent);
-  label->setObjectName(name);
-  return label;
-}
+using controls::Make_Label;
 
 }  // namespace
 

@@ -17,17 +17,9 @@ constexpr char kOutputDay[] = "frmFindADate.OutputDay()";
 constexpr char kOutputDayOnForm1[] = "frmFindADate.OutputDay_On_Form1()";
 constexpr char kConvertAboveDate[] = "frmFindADate.cmdConvertAboveDate__Click()";
 
-QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
-  auto* label = new QLabel(caption, parent);
-  label->setObjectName(name);
-  return label;
-}
+using controls::Make_Label;
 
-QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
-  auto* button = new QPushButton(caption, parent);
-  button->setObjectName(name);
-  return button;
-}
+using controls::Make_Button;
 
 QComboBox* Make_Combo(QWidget* parent, const char* name, bool editable) {
   auto* combo = new QComboBox(parent);

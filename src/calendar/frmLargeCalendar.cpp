@@ -86,17 +86,9 @@ class DropDownComboBox : public QComboBox {
   std::function<void()> on_drop_down_;
 };
 
-QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
-  auto* label = new QLabel(caption, parent);
-  label->setObjectName(name);
-  return label;
-}
+using controls::Make_Label;
 
-QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
-  auto* button = new QPushButton(caption, parent);
-  button->setObjectName(name);
-  return button;
-}
+using controls::Make_Button;
 
 }  // namespace
 

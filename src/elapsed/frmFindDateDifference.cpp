@@ -44,11 +44,7 @@ constexpr Comparison kComparisons[] = {
     {&frmFindDateDifference::optTime2CurrentTime, {kCurrentTimeHeading, kTime2Heading}, {kSystem, kTime2}},
 };
 
-QLabel* Make_Label(QWidget* parent, const QString& name, const char* caption = "") {
-  auto* label = new QLabel(caption, parent);
-  label->setObjectName(name);
-  return label;
-}
+using controls::Make_Label;
 
 QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable) {
   auto* combo = new QComboBox(parent);
@@ -59,12 +55,6 @@ QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable) {
   return combo;
 }
 
-QRadioButton* Make_Option(QWidget* parent, const char* name, const char* caption) {
-  auto* option = new QRadioButton(caption, parent);
-  option->setObjectName(name);
-  return option;
-}
-
 QCheckBox* Make_Check(QWidget* parent, const char* name, const char* caption) {
   auto* check = new QCheckBox(caption, parent);
   check->setObjectName(name);
@@ -72,11 +62,7 @@ QCheckBox* Make_Check(QWidget* parent, const char* name, const char* caption) {
   return check;
 }
 
-QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
-  auto* button = new QPushButton(caption, parent);
-  button->setObjectName(name);
-  return button;
-}
+using controls::Make_Button;
 
 QGroupBox* Make_Frame(QWidget* parent, const char* name, const char* caption) {
   auto* frame = new QGroupBox(caption, parent);
@@ -173,19 +159,19 @@ void frmFindDateDifference::Build_Date_Selection(int side, QGroupBox* frame) {
 
 void frmFindDateDifference::Build_Options() {
   fraCompare = Make_Frame(this, "fraCompare", "Compare");
-  optTime1Time2 = Make_Option(fraCompare, "optTime1Time2", "Time 1 - Time 2");
-  optTime1CurrentTime = Make_Option(fraCompare, "optTime1CurrentTime", "Time 1 - Current Time");
-  optTime2CurrentTime = Make_Option(fraCompare, "optTime2CurrentTime", "Time 2 - Current Time");
+  optTime1Time2 = controls::Make<QRadioButton>(fraCompare, "optTime1Time2", "Time 1 - Time 2");
+  optTime1CurrentTime = controls::Make<QRadioButton>(fraCompare, "optTime1CurrentTime", "Time 1 - Current Time");
+  optTime2CurrentTime = controls::Make<QRadioButton>(fraCompare, "optTime2CurrentTime", "Time 2 - Current Time");
   optTime1Time2->setChecked(true);
 
   fraCalendarStyle = Make_Frame(this, "fraCalendarStyle", "Calendar Style");
-  optGregorian = Make_Option(fraCalendarStyle, "optGregorian", "Gregorian Calendar Style");
-  optJulian = Make_Option(fraCalendarStyle, "optJulian", "Julian Calendar Style");
+  optGregorian = controls::Make<QRadioButton>(fraCalendarStyle, "optGregorian", "Gregorian Calendar Style");
+  optJulian = controls::Make<QRadioButton>(fraCalendarStyle, "optJulian", "Julian Calendar Style");
   optGregorian->setChecked(true);
 
   fraDisplay = Make_Frame(this, "fraDisplay", "Display");
-  optTotal = Make_Option(fraDisplay, "optTotal", "Total Time Difference Is Displayed For Each Time Increment");
-  OptRemaining = Make_Option(
+  optTotal = controls::Make<QRadioButton>(fraDisplay, "optTotal", "Total Time Difference Is Displayed For Each Time Increment");
+  OptRemaining = controls::Make<QRadioButton>(
       fraDisplay, "OptRemaining",
       "Remaining Time Difference After Larger Time Increments Are Distributed To Smaller Time Increments");
   OptRemaining->setChecked(true);

@@ -49,23 +49,9 @@ constexpr const char* kSelectedLineCommands[] = {"cmdCalendar", "mnuDisplaySelec
 constexpr const char* kFilledListCommands[] = {"cmdSave", "mnuSaveList", "cmdClear", "mnuClearList",
                                                "mnuPrintHolidayList"};
 
-QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
-  auto* label = new QLabel(caption, parent);
-  label->setObjectName(name);
-  return label;
-}
+using controls::Make_Label;
 
-QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
-  auto* button = new QPushButton(caption, parent);
-  button->setObjectName(name);
-  return button;
-}
-
-QLineEdit* Make_Text_Box(QWidget* parent, const char* name) {
-  auto* box = new QLineEdit(parent);
-  box->setObjectName(name);
-  return box;
-}
+using controls::Make_Button;
 
 // A text box's face in a program colour, kept readable as the program reads colours back.
 void Set_Text_Box_Color(QLineEdit* box, unsigned colour) {
@@ -160,10 +146,10 @@ void frmFindAHoliday::Build_Controls() {
   optByHoliday->setChecked(true);
 
   lblFrom = Make_Label(body, "lblFrom", "From:");
-  txtFromYear = Make_Text_Box(body, "txtFromYear");
+  txtFromYear = controls::Make<QLineEdit>(body, "txtFromYear");
   chkSelectRangeOfYears = new QCheckBox("Select Range of Years", body);
   chkSelectRangeOfYears->setObjectName("chkSelectRangeOfYears");
-  txtToYear = Make_Text_Box(body, "txtToYear");
+  txtToYear = controls::Make<QLineEdit>(body, "txtToYear");
   txtToYear->setEnabled(false);
   Set_Text_Box_Color(txtToYear, controls::kButtonFace);
   cmdSelect = Make_Button(body, "cmdSelect", "Display");

@@ -26,17 +26,9 @@ constexpr Caller kCallers[] = {
     {"frmLargeCalendar.mnuOpenLog_Click()", nullptr},
 };
 
-QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
-  auto* label = new QLabel(caption, parent);
-  label->setObjectName(name);
-  return label;
-}
+using controls::Make_Label;
 
-QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
-  auto* button = new QPushButton(caption, parent);
-  button->setObjectName(name);
-  return button;
-}
+using controls::Make_Button;
 
 }  // namespace
 

@@ -28,17 +28,9 @@ constexpr Caller kCallers[] = {
     {"frmScheduler_Reminder", nullptr},
 };
 
-QLabel* Make_Label(QWidget* parent, const char* name, const char* caption = "") {
-  auto* label = new QLabel(caption, parent);
-  label->setObjectName(name);
-  return label;
-}
+using controls::Make_Label;
 
-QPushButton* Make_Button(QWidget* parent, const char* name, const char* caption) {
-  auto* button = new QPushButton(caption, parent);
-  button->setObjectName(name);
-  return button;
-}
+using controls::Make_Button;
 
 void Show_Message(const std::string& title, const std::string& text, int buttons, int icon) {
   Machine().Message_Box(text, buttons, icon, title);
