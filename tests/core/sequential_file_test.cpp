@@ -7,6 +7,7 @@
 
 #include "core/runtime_failure.h"
 #include "core/temp_folder.h"
+#include "support/failure_of.h"
 
 namespace orrivane {
 namespace {
@@ -15,14 +16,7 @@ using testing::Read_Bytes;
 using testing::TempFolder;
 using testing::Write_Bytes;
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 // Every value of a text, read until the end.
 std::vector<Value> Read_All(const std::string& content) {

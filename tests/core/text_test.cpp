@@ -5,18 +5,12 @@
 #include <limits>
 
 #include "core/runtime_failure.h"
+#include "support/failure_of.h"
 
 namespace orrivane::text {
 namespace {
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 // ---- Left, Right, Mid ---------------------------------------------------------------------
 

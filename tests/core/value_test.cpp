@@ -6,18 +6,12 @@
 #include <limits>
 
 #include "core/runtime_failure.h"
+#include "support/failure_of.h"
 
 namespace orrivane {
 namespace {
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 // ---- Kinds --------------------------------------------------------------------------------
 

@@ -9,18 +9,12 @@
 
 #include "core/runtime_failure.h"
 #include "engine/calendar_engine.h"
+#include "support/failure_of.h"
 
 namespace orrivane::elapsed {
 namespace {
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 Moment At(long long year, long long month, long long date, long long hour = 0, long long minute = 0) {
   return {minute, hour, date, month, year};

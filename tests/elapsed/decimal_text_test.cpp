@@ -9,18 +9,12 @@
 #include <vector>
 
 #include "core/runtime_failure.h"
+#include "support/failure_of.h"
 
 namespace orrivane::elapsed {
 namespace {
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 std::string Repeat(char c, std::size_t n) { return std::string(n, c); }
 

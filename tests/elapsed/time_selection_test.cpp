@@ -7,18 +7,12 @@
 #include <tuple>
 
 #include "core/runtime_failure.h"
+#include "support/failure_of.h"
 
 namespace orrivane::elapsed {
 namespace {
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 // March 5, 2001, 14:07: the present of these tests.
 const Time_Selection kNow = Selection_At("March", 5, 2001, 14, 7);

@@ -5,18 +5,12 @@
 #include "core/runtime_failure.h"
 #include "engine/calendar_engine.h"
 #include "fuzz_regressions/fuzz_input.h"
+#include "support/failure_of.h"
 
 namespace orrivane::fuzz_regressions {
 namespace {
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 engine::CalendarrDate Date_Of_Input() {
   const std::vector<std::string> w = Fuzz_Input_Words("calendarr_year_beyond_64_bits.txt");

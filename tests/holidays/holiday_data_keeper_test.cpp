@@ -5,18 +5,12 @@
 
 #include "core/runtime_failure.h"
 #include "holidays/holiday_rules.h"
+#include "support/failure_of.h"
 
 namespace orrivane::holidays {
 namespace {
 
-int Failure_Of(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 TEST(HolidayDataKeeper, EntriesStartEmptyAndThereforeFree) {
   Holiday_Data_Keeper keeper;

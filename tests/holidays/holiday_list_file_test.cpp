@@ -9,6 +9,7 @@
 #include "core/runtime_failure.h"
 #include "core/temp_folder.h"
 #include "holidays/holiday_list_file.h"
+#include "support/failure_of.h"
 
 namespace orrivane::holidays {
 namespace {
@@ -17,14 +18,7 @@ using testing::Read_Bytes;
 using testing::TempFolder;
 using testing::Write_Bytes;
 
-int Failure_Of(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 std::vector<std::string> Read_All(const std::string& path) {
   std::vector<std::string> lines;

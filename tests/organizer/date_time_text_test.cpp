@@ -5,18 +5,12 @@
 #include <string>
 
 #include "core/runtime_failure.h"
+#include "support/failure_of.h"
 
 namespace orrivane::organizer {
 namespace {
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 ::testing::AssertionResult Is_Text(const Value& v, const std::string& text) {
   if (v.is_text() && v.text() == text) return ::testing::AssertionSuccess();

@@ -9,6 +9,7 @@
 
 #include "core/runtime_failure.h"
 #include "core/temp_folder.h"
+#include "support/failure_of.h"
 
 namespace orrivane::organizer {
 namespace {
@@ -17,14 +18,7 @@ using testing::Read_Bytes;
 using testing::TempFolder;
 using testing::Write_Bytes;
 
-int Failure_Of(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& failure) {
-    return failure.number();
-  }
-  return 0;
-}
+using orrivane::testing::Failure_Of;
 
 std::string Kind(const Value& v) { return v.is_text() ? "text" : v.is_number() ? "number" : "empty"; }
 
