@@ -285,7 +285,7 @@ TEST_F(Form1Test, ExitAnsweredYesRemovesTheWorkingFilesAndEnds) {
   Start_Program();
   Write_File("NTRemin.dat", "");
   machine().Answer_Next(platform::vbYes, "Confirm");
-  Click(main().cmdExit);
+  Until_The_End([this] { Click(main().cmdExit); });
   EXPECT_EQ(machine().Exit_Code(), 0);
   EXPECT_FALSE(File_Present("Schedule.tmp"));
   EXPECT_FALSE(File_Present("TRemin.tmp"));

@@ -22,7 +22,7 @@ TEST_F(DispatchTest, FailureInAClickIsToldAndEndsTheProgramLeavingTheWorkingFile
   QObject::connect(&button, &QPushButton::clicked, [] { throw RuntimeFailure(kTypeMismatch); });
   button.show();
   machine().Answer_Next(platform::vbOK, "Orrivane");
-  Click(&button);
+  Until_The_End([&] { Click(&button); });
   ASSERT_EQ(machine().Messages().size(), 1u);
   EXPECT_EQ(machine().Messages()[0].title, "Orrivane");
   EXPECT_EQ(machine().Messages()[0].text, "Run-time error '13':\n\nType mismatch");
@@ -36,7 +36,7 @@ TEST_F(DispatchTest, InputPastEndOfFileCarriesItsNumberAndText) {
   QPushButton button("Open");
   QObject::connect(&button, &QPushButton::clicked, [] { SequentialReader("empty.sdl").Input(); });
   machine().Answer_Next(platform::vbOK);
-  Click(&button);
+  Until_The_End([&] { Click(&button); });
   ASSERT_EQ(machine().Messages().size(), 1u);
   EXPECT_EQ(machine().Messages()[0].text, "Run-time error '62':\n\nInput past end of file");
 }

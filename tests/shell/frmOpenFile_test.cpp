@@ -183,7 +183,7 @@ TEST_F(frmOpenFileTest, AnEmptyFileEndsTheProgramAfterTheListIsGone) {
   From_The_Menu([this] {
     machine().Answer_Next(platform::vbOK, "Orrivane");
     Choose_File("empty.dte");
-    Click(open().cmdOpen);
+    Until_The_End([this] { Click(open().cmdOpen); });
   });
   ASSERT_FALSE(machine().Messages().empty());
   EXPECT_EQ(machine().Messages().back().text, "Run-time error '62':\n\nInput past end of file");

@@ -8,6 +8,9 @@
 #include <QTimer>
 
 #include "platform/qt_platform.h"
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
 #include "platform/window_registry.h"
 
 namespace orrivane::testing {
@@ -155,6 +158,17 @@ bool WindowTest::File_Present(const std::string& name) const {
 void WindowTest::Click(QWidget* widget) {
   ASSERT_NE(widget, nullptr);
   QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+void WindowTest::Until_The_End(const std::function<void()>& action) {
+#if defined(__SANITIZE_ADDRESS__)
+  __lsan_disable();
+#endif
+  action();
+#if defined(__SANITIZE_ADDRESS__)
+  __lsan_enable();
+#endif
+  EXPECT_TRUE(machine_.Exit_Code().has_value()) << "the program did not end";
 }
 
 void WindowTest::Type(QWidget* widget, const QString& text) {
