@@ -135,7 +135,7 @@ std::string frmAbout::DataSource(int DataLine) const {
 
 void frmAbout::CopyFair(const std::string& Direction) {
   for (int row = 1; row <= kNoticeRows; ++row) Rows_[static_cast<std::size_t>(row)] = DataSource(row);
-  Printed_.clear();
+  Clear_Rows();
   if (Direction == "reset") Position_ = 1;
   for (const Move& move : kMoves) {
     if (Direction != move.direction) continue;
@@ -152,7 +152,7 @@ void frmAbout::CopyFair(const std::string& Direction) {
     platform::Machine().Beep();
   }
   for (int i = 1; i <= kRowsShown; ++i) {
-    Printed_.push_back({kLeftEdge, kTop + kRowHeight * i, Rows_[static_cast<std::size_t>(Position_ - 1 + i)]});
+    Print_Row(kLeftEdge, kTop + kRowHeight * i, Rows_[static_cast<std::size_t>(Position_ - 1 + i)]);
   }
   update();
 }
@@ -177,29 +177,9 @@ void frmAbout::paintEvent(QPaintEvent*) {
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawLine(27, 280, width() - 27, 280);
 
-  painter.setPen(palette().color(QPalette::WindowText));
   painter.setFont(Sized(12, false));
-  const int ascent = painter.fontMetrics().ascent();
-  for (const platform::PrintedText& row : Printed_) {
-    painter.drawText(controls::Px(row.x_twips), controls::Px(row.y_twips) + ascent, QString::fromStdString(row.text));
-  }
+  Draw_Rows(painter);
 }
 
-void frmAbout::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
-  Deactivated_ = false;
-  Form_Activate();
-}
-
-bool frmAbout::event(QEvent* event) {
-  // Coming back to the window after another had the focus is an activation too; the first
-  // activation after showing was already handled by the show.
-  if (event->type() == QEvent::WindowDeactivate) Deactivated_ = true;
-  if (event->type() == QEvent::WindowActivate && Deactivated_) {
-    Deactivated_ = false;
-    Form_Activate();
-  }
-  return QWidget::event(event);
-}
 
 }  // namespace orrivane

@@ -3,6 +3,8 @@
 // window five rows at a time, moved by the buttons through CopyFair.
 #include <QPushButton>
 #include <QWidget>
+
+#include "shell/RowWindow.h"
 #include <array>
 #include <string>
 #include <vector>
@@ -11,7 +13,7 @@
 
 namespace orrivane {
 
-class frmAbout : public QWidget {
+class frmAbout : public RowWindow {
   Q_OBJECT
  public:
   static constexpr int kNoticeRows = 29;
@@ -24,12 +26,10 @@ class frmAbout : public QWidget {
   // Row DataLine of the notice, 1 to 29; the empty text for any other number.
   std::string DataSource(int DataLine) const;
   // The window became active: back to the top.
-  void Form_Activate();
+  void Form_Activate() override;
 
   // The first row of the view, 1 to 25 (0 before the first move).
   int Position() const { return Position_; }
-  // What CopyFair printed last: left edge and top in twips, and the text.
-  const std::vector<platform::PrintedText>& Printed_Rows() const { return Printed_; }
 
   QPushButton* CmdUP;
   QPushButton* CmdDown;
@@ -40,16 +40,12 @@ class frmAbout : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  bool event(QEvent* event) override;
 
  private:
   void CmdViewGPLLiscense_Click();
 
   std::array<std::string, kNoticeRows + 1> Rows_;  // cell 0 is not used
   int Position_ = 0;
-  std::vector<platform::PrintedText> Printed_;
-  bool Deactivated_ = false;  // set when the window loses the focus while shown
 };
 
 }  // namespace orrivane

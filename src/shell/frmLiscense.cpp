@@ -105,10 +105,10 @@ void frmLiscense::Scroll(const std::string& Direction) {
 }
 
 void frmLiscense::Print_Rows() {
-  Printed_.clear();
+  Clear_Rows();
   for (int i = kFirstPrintRow; i < kFirstPrintRow + kRowsShown; ++i) {
     const auto row = static_cast<std::size_t>(Position_ + i - kFirstPrintRow);
-    Printed_.push_back({kLeftEdge, kRowHeight * i, Rows_[row]});
+    Print_Row(kLeftEdge, kRowHeight * i, Rows_[row]);
   }
   if (!Painting_) update();
 }
@@ -127,28 +127,8 @@ void frmLiscense::paintEvent(QPaintEvent*) {
   Painting_ = false;
   QPainter painter(this);
   painter.setFont(Row_Font());
-  painter.setPen(palette().color(QPalette::WindowText));
-  const int ascent = painter.fontMetrics().ascent();
-  for (const platform::PrintedText& row : Printed_) {
-    painter.drawText(controls::Px(row.x_twips), controls::Px(row.y_twips) + ascent, QString::fromStdString(row.text));
-  }
+  Draw_Rows(painter);
 }
 
-void frmLiscense::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
-  Deactivated_ = false;
-  Form_Activate();
-}
-
-bool frmLiscense::event(QEvent* event) {
-  // Coming back to the window after another had the focus is an activation too; the first
-  // activation after showing was already handled by the show.
-  if (event->type() == QEvent::WindowDeactivate) Deactivated_ = true;
-  if (event->type() == QEvent::WindowActivate && Deactivated_) {
-    Deactivated_ = false;
-    Form_Activate();
-  }
-  return QWidget::event(event);
-}
 
 }  // namespace orrivane

@@ -3,6 +3,8 @@
 // sixteen rows at a time, moved by the buttons through Scroll.
 #include <QPushButton>
 #include <QWidget>
+
+#include "shell/RowWindow.h"
 #include <array>
 #include <string>
 #include <vector>
@@ -12,7 +14,7 @@
 
 namespace orrivane {
 
-class frmLiscense : public QWidget {
+class frmLiscense : public RowWindow {
   Q_OBJECT
  public:
   frmLiscense();
@@ -24,12 +26,10 @@ class frmLiscense : public QWidget {
   // Row DataLine of the licence, 1 to 345; the empty text for any other number.
   std::string DataSource(int DataLine) const;
   // The window became active: back to the top.
-  void Form_Activate();
+  void Form_Activate() override;
 
   // The first row of the view; 0 is the top, whose first row is the empty cell above row 1.
   int Position() const { return Position_; }
-  // What Scroll printed last: left edge and top in twips, and the text.
-  const std::vector<platform::PrintedText>& Printed_Rows() const { return Printed_; }
 
   QPushButton* CmdUP;
   QPushButton* CmdDown;
@@ -41,8 +41,6 @@ class frmLiscense : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  bool event(QEvent* event) override;
 
  private:
   void Fill_Rows();
@@ -51,9 +49,7 @@ class frmLiscense : public QWidget {
 
   std::array<std::string, shell::kLicenceRows + 1> Rows_;  // cell 0 stays empty
   int Position_ = 0;
-  std::vector<platform::PrintedText> Printed_;
   bool Painting_ = false;      // a Scroll from the paint event draws itself; no new paint
-  bool Deactivated_ = false;   // set when the window loses the focus while shown
 };
 
 }  // namespace orrivane
