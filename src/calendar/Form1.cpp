@@ -24,15 +24,15 @@ namespace {
 using platform::Machine;
 
 // The menu of the program. Entries whose windows are not part of the program yet stand
-// disabled (see kNotYetAvailable).
+// disabled.
 constexpr MenuEntry kForm1Menu[] = {
     {"", "mnuFile", "&File", ""},
-    {"mnuFile", "mnuNewLog", "New Log", ""},
-    {"mnuFile", "mnuOpenLog", "Open Log...", "Ctrl+O"},
-    {"mnuFile", "mnuSaveLog", "Save Log", "Ctrl+S"},
-    {"mnuFile", "mnuSaveLogAs", "Save Log As...", "Ctrl+V"},
-    {"mnuFile", "mnuPrintLog", "Print Log...", "F2"},
-    {"mnuFile", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2"},
+    {"mnuFile", "mnuNewLog", "New Log", "", false, true},
+    {"mnuFile", "mnuOpenLog", "Open Log...", "Ctrl+O", false, true},
+    {"mnuFile", "mnuSaveLog", "Save Log", "Ctrl+S", false, true},
+    {"mnuFile", "mnuSaveLogAs", "Save Log As...", "Ctrl+V", false, true},
+    {"mnuFile", "mnuPrintLog", "Print Log...", "F2", false, true},
+    {"mnuFile", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2", false, true},
     {"mnuFile", "mnuExit", "Exit", "Ctrl+Q"},
     {"", "mnuView", "&View", ""},
     {"mnuView", "mnuTodaysDate", "Today's Date", "Ctrl+D"},
@@ -40,40 +40,33 @@ constexpr MenuEntry kForm1Menu[] = {
     {"mnuMonth", "mnuNext", "Next", "Ctrl+N"},
     {"mnuMonth", "mnuPrevious", "Previous", "Ctrl+P"},
     {"mnuMonth", "mnuSelect", "Select...", "Ctrl+M"},
-    {"mnuView", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I"},
+    {"mnuView", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I", false, true},
     {"", "mnuLog", "&Log", ""},
-    {"mnuLog", "mnuAddNewTaskEventToLog", "Add New Task\\Event To Log...", "Ctrl+E"},
-    {"mnuLog", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G"},
-    {"mnuLog", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3"},
-    {"mnuLog", "mnuDeleteGroupMember", "Delete Group Member From Log...", "Shift+F3"},
+    {"mnuLog", "mnuAddNewTaskEventToLog", "Add New Task\\Event To Log...", "Ctrl+E", false, true},
+    {"mnuLog", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G", false, true},
+    {"mnuLog", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3", false, true},
+    {"mnuLog", "mnuDeleteGroupMember", "Delete Group Member From Log...", "Shift+F3", false, true},
     {"", "mnuTools", "&Tools", ""},
     {"mnuTools", "mnuConvertDate", "Convert This Date...", "Ctrl+C"},
     {"mnuTools", "mnuFindADatesWeekday", "Find A Date's Weekday", "Ctrl+W"},
     {"mnuTools", "mnuFindHolidayDates", "Find Holiday Dates...", "Ctrl+H"},
-    {"mnuTools", "mnuScheduler_Reminder", "Organizer...", "F3"},
+    {"mnuTools", "mnuScheduler_Reminder", "Organizer...", "F3", false, true},
     {"mnuTools", "mnuOptions", "Options...", "F9"},
     {"mnuTools", "mnuFindTimeLengthBetweenDates", "Find Time Length Between Dates", "Ctrl+T"},
     {"mnuTools", "mnuReminders", "Reminders", "", true},
-    {"mnuReminders", "mnuAdd", "Add...", "F6"},
-    {"mnuReminders", "mnuChange", "Change...", "Ctrl+F6"},
-    {"mnuReminders", "mnuDelete", "Delete...", "Shift+F6"},
+    {"mnuReminders", "mnuAdd", "Add...", "F6", false, true},
+    {"mnuReminders", "mnuChange", "Change...", "Ctrl+F6", false, true},
+    {"mnuReminders", "mnuDelete", "Delete...", "Shift+F6", false, true},
     {"", "mnuWindow", "&Window", ""},
     {"mnuWindow", "mnuMinimizeToTaskbar", "Minimize To Taskbar", "F5"},
     {"mnuWindow", "mnuLargeWindow", "Large Window", "F4"},
     {"", "mnuHelp", "&Help", ""},
-    {"mnuHelp", "mnuContents", "Contents...", "F1"},
+    {"mnuHelp", "mnuContents", "Contents...", "F1", false, true},
     {"mnuHelp", "mnuLicense", "License...", "Ctrl+L"},
     {"mnuHelp", "mnuAbout", "About...", "Ctrl+A"},
 };
 
 // Entries and buttons whose windows come later: they stand disabled until then.
-constexpr const char* kNotYetAvailable[] = {
-    "mnuNewLog", "mnuOpenLog", "mnuSaveLog", "mnuSaveLogAs", "mnuPrintLog", "mnuPrintCalendar",
-    "mnuTaskEventInfo", "mnuAddNewTaskEventToLog", "mnuAddNewGroupMember", "mnuDeleteATaskEvent",
-    "mnuDeleteGroupMember", "mnuScheduler_Reminder",
-    "mnuAdd", "mnuChange", "mnuDelete", "mnuContents",
-};
-
 using controls::Make_Label;
 
 using controls::Make_Button;
@@ -164,7 +157,6 @@ void Form1::Build_Controls() {
 
 void Form1::Build_Menu() {
   menu = std::make_unique<MenuTree>(menuBar(), kForm1Menu);
-  for (const char* name : kNotYetAvailable) menu->Action(name)->setEnabled(false);
 }
 
 void Form1::Connect_Controls() {

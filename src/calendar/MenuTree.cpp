@@ -21,6 +21,7 @@ MenuTree::MenuTree(QMenuBar* bar, std::span<const MenuEntry> entries) {
     QAction* action = menus.at(parent)->addAction(entry.caption);
     action->setObjectName(name);
     if (*entry.shortcut != '\0') action->setShortcut(QKeySequence(entry.shortcut));
+    action->setEnabled(!entry.later);
     actions_[name] = action;
   }
 }

@@ -16,6 +16,7 @@ struct MenuEntry {
   const char* caption;
   const char* shortcut;  // "" for none
   bool submenu = false;  // a menu that holds further entries
+  bool later = false;    // its window is not part of the program yet: shown, but disabled
 };
 
 class MenuTree {

@@ -25,12 +25,12 @@ namespace {
 
 constexpr MenuEntry kLargeCalendarMenu[] = {
     {"", "mnuFile", "&File", ""},
-    {"mnuFile", "mnuNewLog", "New Log", ""},
-    {"mnuFile", "mnuOpenLog", "Open Log...", "Ctrl+O"},
-    {"mnuFile", "mnuSaveLog", "Save Log", "Ctrl+S"},
-    {"mnuFile", "mnuSaveLogAs", "Save Log As...", "Ctrl+V"},
-    {"mnuFile", "mnuPrintLog", "Print Log...", "F2"},
-    {"mnuFile", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2"},
+    {"mnuFile", "mnuNewLog", "New Log", "", false, true},
+    {"mnuFile", "mnuOpenLog", "Open Log...", "Ctrl+O", false, true},
+    {"mnuFile", "mnuSaveLog", "Save Log", "Ctrl+S", false, true},
+    {"mnuFile", "mnuSaveLogAs", "Save Log As...", "Ctrl+V", false, true},
+    {"mnuFile", "mnuPrintLog", "Print Log...", "F2", false, true},
+    {"mnuFile", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2", false, true},
     {"mnuFile", "mnuExit", "Exit", "Ctrl+Q"},
     {"", "mnuView", "&View", ""},
     {"mnuView", "mnuTodaysDates", "Today's Date", "Ctrl+D"},
@@ -38,38 +38,31 @@ constexpr MenuEntry kLargeCalendarMenu[] = {
     {"mnuMonth", "mnuNext", "Next", "Ctrl+N"},
     {"mnuMonth", "mnuPrevious", "Previous", "Ctrl+P"},
     {"mnuMonth", "mnuSelect", "Select...", "Ctrl+M"},
-    {"mnuView", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I"},
+    {"mnuView", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I", false, true},
     {"", "mnuLog", "&Log", ""},
-    {"mnuLog", "mnuAddNewTaskEventToLog", "Add New Task\\Event To Log...", "Ctrl+E"},
-    {"mnuLog", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G"},
-    {"mnuLog", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3"},
-    {"mnuLog", "mnuDeleteGroupMember", "Delete Group Member From Log...", "Shift+F3"},
+    {"mnuLog", "mnuAddNewTaskEventToLog", "Add New Task\\Event To Log...", "Ctrl+E", false, true},
+    {"mnuLog", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G", false, true},
+    {"mnuLog", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3", false, true},
+    {"mnuLog", "mnuDeleteGroupMember", "Delete Group Member From Log...", "Shift+F3", false, true},
     {"", "mnuTools", "&Tools", ""},
     {"mnuTools", "mnuConvertThisDate", "Convert This Date...", "Ctrl+C"},
     {"mnuTools", "mnuFindADatesWeekday", "Find A Date's Weekday", "Ctrl+W"},
     {"mnuTools", "mnuFindHolidayDates", "Find Holiday Dates...", "Ctrl+H"},
-    {"mnuTools", "mnuSchedulerReminder", "Organizer...", "F3"},
+    {"mnuTools", "mnuSchedulerReminder", "Organizer...", "F3", false, true},
     {"mnuTools", "mnuFindTimeLengthBetweenDates", "Find Time Length Between Dates", "Ctrl+T"},
     {"mnuTools", "mnuReminders", "Reminders", "", true},
-    {"mnuReminders", "mnuAdd", "Add...", "F6"},
-    {"mnuReminders", "mnuChange", "Change...", "Ctrl+F6"},
-    {"mnuReminders", "mnuDelete", "Delete...", "Shift+F6"},
+    {"mnuReminders", "mnuAdd", "Add...", "F6", false, true},
+    {"mnuReminders", "mnuChange", "Change...", "Ctrl+F6", false, true},
+    {"mnuReminders", "mnuDelete", "Delete...", "Shift+F6", false, true},
     {"", "mnuWindow", "&Window", ""},
     {"mnuWindow", "mnuMinimizeToTaskbar", "Minimize To Taskbar", "F5"},
     {"mnuWindow", "mnuMaximize", "Maximize", "Ctrl+F5"},
     {"mnuWindow", "mnuWindowed", "Windowed", "Shift+F5"},
     {"mnuWindow", "mnuSmallWindow", "Small Window", "F4"},
     {"", "mnuHelp", "&Help", ""},
-    {"mnuHelp", "mnuContents", "Contents...", "F1"},
+    {"mnuHelp", "mnuContents", "Contents...", "F1", false, true},
     {"mnuHelp", "mnuLicense", "License...", "Ctrl+L"},
     {"mnuHelp", "mnuAbout", "About...", "Ctrl+A"},
-};
-
-constexpr const char* kNotYetAvailable[] = {
-    "mnuNewLog", "mnuOpenLog", "mnuSaveLog", "mnuSaveLogAs", "mnuPrintLog", "mnuPrintCalendar",
-    "mnuTaskEventInfo", "mnuAddNewTaskEventToLog", "mnuAddNewGroupMember", "mnuDeleteATaskEvent",
-    "mnuDeleteGroupMember", "mnuSchedulerReminder",
-    "mnuAdd", "mnuChange", "mnuDelete", "mnuContents",
 };
 
 // A combo box that tells when its list is about to open.
@@ -138,7 +131,6 @@ void frmLargeCalendar::Build_Controls() {
 
 void frmLargeCalendar::Build_Menu() {
   menu = std::make_unique<MenuTree>(menuBar(), kLargeCalendarMenu);
-  for (const char* name : kNotYetAvailable) menu->Action(name)->setEnabled(false);
 }
 
 void frmLargeCalendar::Connect_Controls() {
