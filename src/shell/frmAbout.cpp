@@ -115,8 +115,7 @@ frmAbout::frmAbout() {
   QPushButton** members[] = {&CmdUP, &CmdDown, &CmdPageUp, &CmdPageDown, &CmdViewGPLLiscense, &cmdClose};
   for (std::size_t i = 0; i < std::size(kButtons); ++i) {
     const ButtonPlace& place = kButtons[i];
-    auto* button = new QPushButton(place.caption, this);
-    button->setObjectName(place.name);
+    auto* button = controls::Make_Button(this, place.name, place.caption);
     button->setGeometry(place.x, place.y, place.width, kButtonHeight);
     *members[i] = button;
   }

@@ -62,8 +62,7 @@ frmLiscense::frmLiscense() {
   QPushButton** members[] = {&CmdHome, &CmdPageUp, &CmdUP, &CmdDown, &CmdPageDown, &CmdEnd};
   for (std::size_t i = 0; i < std::size(kButtons); ++i) {
     const ButtonPlace& place = kButtons[i];
-    auto* button = new QPushButton(place.caption, this);
-    button->setObjectName(place.name);
+    auto* button = controls::Make_Button(this, place.name, place.caption);
     button->setGeometry(place.x, kButtonTop, place.width, kButtonHeight);
     connect(button, &QPushButton::clicked, this, [this, direction = place.direction] { Scroll(direction); });
     *members[i] = button;

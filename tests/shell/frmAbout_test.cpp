@@ -9,37 +9,21 @@
 #include "platform/window_registry.h"
 #include "shell/frmAbout.h"
 #include "shell/frmLiscense.h"
+#include "shell/row_window_test.h"
 #include "support/window_fixture.h"
 
 namespace orrivane {
 namespace {
 
-using testing::WindowTest;
-
-class frmAboutTest : public WindowTest {
+class frmAboutTest : public testing::RowWindowTest<frmAbout> {
  protected:
-  frmAbout& About() { return Window<frmAbout>(); }
-
-  void Press(const char* name) { Click(Control<QPushButton>(About(), name)); }
-
-  std::vector<std::string> Texts() {
-    std::vector<std::string> texts;
-    for (const auto& row : About().Printed_Rows()) texts.push_back(row.text);
-    return texts;
-  }
+  frmAbout& About() { return The_Window(); }
 
   // The rows first to first + 4 as the window should print them.
   std::vector<std::string> Rows_From(int first) {
     std::vector<std::string> rows;
     for (int row = first; row < first + 5; ++row) rows.push_back(About().DataSource(row));
     return rows;
-  }
-
-  static int Ink(const QImage& image, const QRect& band) {
-    int dark = 0;
-    for (int y = band.top(); y <= band.bottom(); ++y)
-      for (int x = band.left(); x <= band.right(); ++x) dark += qGray(image.pixel(x, y)) < 128;
-    return dark;
   }
 };
 

@@ -9,38 +9,21 @@
 #include "platform/window_registry.h"
 #include "shell/frmLiscense.h"
 #include "shell/licence_text.h"
+#include "shell/row_window_test.h"
 #include "support/window_fixture.h"
 
 namespace orrivane {
 namespace {
 
-using testing::WindowTest;
-
-class frmLiscenseTest : public WindowTest {
+class frmLiscenseTest : public testing::RowWindowTest<frmLiscense> {
  protected:
-  frmLiscense& Licence() { return Window<frmLiscense>(); }
-
-  void Press(const char* name) { Click(Control<QPushButton>(Licence(), name)); }
-
-  std::vector<std::string> Texts() {
-    std::vector<std::string> texts;
-    for (const auto& row : Licence().Printed_Rows()) texts.push_back(row.text);
-    return texts;
-  }
+  frmLiscense& Licence() { return The_Window(); }
 
   // The rows first to first + 15 as the window should print them.
   static std::vector<std::string> Rows_From(int first) {
     std::vector<std::string> rows;
     for (int row = first; row < first + 16; ++row) rows.emplace_back(shell::Licence_Row(row));
     return rows;
-  }
-
-  // Dark pixels in a band of the drawn window, in pixels.
-  static int Ink(const QImage& image, const QRect& band) {
-    int dark = 0;
-    for (int y = band.top(); y <= band.bottom(); ++y)
-      for (int x = band.left(); x <= band.right(); ++x) dark += qGray(image.pixel(x, y)) < 128;
-    return dark;
   }
 
   // The band of the window where row i (6 to 21) of the view is printed.
