@@ -42,7 +42,7 @@ bool Asks_For_A_Long_List(const std::vector<std::string>& words) {
 // The error line of an exception the tool only catches as a last resort. One message of the
 // program's own has the title "Error" too: that of View Month On Calendar for several errors.
 bool Is_Last_Resort(const std::string& error) {
-  const orrivane::engine::EngineMessage own =
+  const orrivane::Message own =
       orrivane::calendar::Select_Month_Entry_Message(orrivane::calendar::kSeveralEntryErrors);
   return error.rfind("error: Error:", 0) == 0 && error != orrivane::cli::Error_Line(own.title, own.text);
 }

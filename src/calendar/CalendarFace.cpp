@@ -8,12 +8,16 @@ namespace {
 
 using controls::Make_Label;
 
-void Make_Array(QWidget* parent, std::array<QLabel*, 42>& cells, const char* name) {
-  for (int i = 0; i < 42; ++i) cells[i] = Make_Label(parent, controls::Array_Name(name, i));
+using engine::kGridCells;
+using engine::kGridColumns;
+using engine::kGridRows;
+
+void Make_Array(QWidget* parent, CalendarFace::Cells& cells, const char* name) {
+  for (int i = 0; i < kGridCells; ++i) cells[i] = Make_Label(parent, controls::Array_Name(name, i));
 }
 
-void Write(std::array<QLabel*, 42>& cells, const calendar::Grid& grid) {
-  for (int i = 0; i < 42; ++i) {
+void Write(CalendarFace::Cells& cells, const calendar::Grid& grid) {
+  for (int i = 0; i < kGridCells; ++i) {
     controls::Set_Caption(cells[i], grid[i].caption);
     controls::Set_Fore_Color(cells[i], grid[i].colour);
   }
@@ -39,8 +43,8 @@ CalendarFace::CalendarFace(QWidget* parent) {
     name->setAlignment(Qt::AlignCenter);
     controls::Set_Fore_Color(name, 0xFFFFFF);
   }
-  static constexpr const char* kHeads[7] = {"S", "M", "T", "W", "T", "F", "S"};
-  for (int i = 0; i < 7; ++i) {
+  static constexpr const char* kHeads[kGridColumns] = {"S", "M", "T", "W", "T", "F", "S"};
+  for (int i = 0; i < kGridColumns; ++i) {
     lblCalendarWeekdayName[i] = Make_Label(parent, controls::Array_Name("lblCalendarWeekdayName", i), kHeads[i]);
     lblCalendarWeekdayName[i]->setAlignment(Qt::AlignCenter);
     controls::Set_Fore_Color(lblCalendarWeekdayName[i], 0xFFFFFF);
@@ -56,16 +60,16 @@ void CalendarFace::Write_Next_Month(const calendar::Grid& grid) { Write(lblNextM
 
 calendar::Captions CalendarFace::Date_Captions() const {
   calendar::Captions captions;
-  for (int i = 0; i < 42; ++i) captions[i] = controls::Caption(lblCalDate[i]);
+  for (int i = 0; i < kGridCells; ++i) captions[i] = controls::Caption(lblCalDate[i]);
   return captions;
 }
 
-void CalendarFace::Place_Cells(std::array<QLabel*, 42>& cells, const QRect& area, Qt::Alignment alignment) {
-  const double w = area.width() / 7.0;
-  const double h = area.height() / 6.0;
-  for (int i = 0; i < 42; ++i) {
-    const int col = i % 7;
-    const int row = i / 7;
+void CalendarFace::Place_Cells(Cells& cells, const QRect& area, Qt::Alignment alignment) {
+  const double w = area.width() / static_cast<double>(kGridColumns);
+  const double h = area.height() / static_cast<double>(kGridRows);
+  for (int i = 0; i < kGridCells; ++i) {
+    const int col = i % kGridColumns;
+    const int row = i / kGridColumns;
     cells[i]->setGeometry(area.x() + static_cast<int>(col * w), area.y() + static_cast<int>(row * h),
                           static_cast<int>(w), static_cast<int>(h));
     cells[i]->setAlignment(alignment);
@@ -78,8 +82,8 @@ void CalendarFace::Place(const QRect& grid_area, const QRect& prior_area, const 
   const QRect dates(grid_area.x(), grid_area.y() + head_height, grid_area.width(), grid_area.height() - head_height);
   lblCalendarWeekDaysBackground->setGeometry(heads);
   lblCalendarDatesBackground->setGeometry(dates);
-  const double w = heads.width() / 7.0;
-  for (int i = 0; i < 7; ++i) {
+  const double w = heads.width() / static_cast<double>(kGridColumns);
+  for (int i = 0; i < kGridColumns; ++i) {
     lblCalendarWeekdayName[i]->setGeometry(heads.x() + static_cast<int>(i * w), heads.y(), static_cast<int>(w),
                                            head_height);
   }
@@ -92,7 +96,7 @@ void CalendarFace::Place(const QRect& grid_area, const QRect& prior_area, const 
   for (QLabel* head : lblCalendarWeekdayName) head->setFont(head_font);
   Place_Cells(lblCalDate, dates.adjusted(4, 2, -4, -2), Qt::AlignRight | Qt::AlignTop);
 
-  auto place_side = [](QLabel* name, QLabel* background, std::array<QLabel*, 42>& cells, const QRect& area) {
+  auto place_side = [](QLabel* name, QLabel* background, Cells& cells, const QRect& area) {
     const int name_height = 20;
     name->setGeometry(area.x(), area.y(), area.width(), name_height);
     const QRect body(area.x(), area.y() + name_height, area.width(), area.height() - name_height);

@@ -14,10 +14,12 @@ class CalendarFace {
  public:
   explicit CalendarFace(QWidget* parent);
 
-  std::array<QLabel*, 42> lblCalDate{};
-  std::array<QLabel*, 42> lblPriorMonthCalDate{};
-  std::array<QLabel*, 42> lblNextMonthCalDate{};
-  std::array<QLabel*, 7> lblCalendarWeekdayName{};
+  using Cells = std::array<QLabel*, engine::kGridCells>;
+
+  Cells lblCalDate{};
+  Cells lblPriorMonthCalDate{};
+  Cells lblNextMonthCalDate{};
+  std::array<QLabel*, engine::kGridColumns> lblCalendarWeekdayName{};
   QLabel* lblPriorMonthName;
   QLabel* lblNextMonthName;
   QLabel* lblCalendarWeekDaysBackground;
@@ -34,7 +36,7 @@ class CalendarFace {
   void Place(const QRect& grid_area, const QRect& prior_area, const QRect& next_area, int date_font_px);
 
  private:
-  static void Place_Cells(std::array<QLabel*, 42>& cells, const QRect& area, Qt::Alignment alignment);
+  static void Place_Cells(Cells& cells, const QRect& area, Qt::Alignment alignment);
 };
 
 }  // namespace orrivane

@@ -14,6 +14,7 @@
 #include "core/sequential_file.h"
 #include "engine/calendar_engine.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
 
@@ -22,6 +23,11 @@ namespace orrivane {
 namespace {
 
 using platform::Machine;
+
+const Message kOptionsNotice{
+    "Orrivane", "My apologies for that.\rThis feature was not yet available as of the release of this version.",
+    vbOKOnly, vbNoIcon};
+const Message kExitQuestion{"Confirm", "Are you sure you want to exit Orrivane?", vbYesNo, vbQuestion};
 
 // The menu of the program. Entries whose windows are not part of the program yet stand
 // disabled.
@@ -188,11 +194,7 @@ void Form1::Connect_Controls() {
   menu->On("mnuAbout", [] { Window<frmAbout>().show(); });
 }
 
-void Form1::Show_Options_Notice() {
-  Machine().Message_Box(
-      "My apologies for that.\rThis feature was not yet available as of the release of this version.",
-      platform::vbOKOnly, platform::vbNoIcon, "Orrivane");
-}
+void Form1::Show_Options_Notice() { platform::Show_Message(kOptionsNotice); }
 
 std::string Form1::Style_On_Show() const {
   const std::string heading = controls::Caption(lblCalendarNameOverCalendar);
@@ -220,106 +222,74 @@ void Form1::Enable_Calendar_Month_Scrolling() {
   Enable_Prior_Month(true);
 }
 
-namespace {
-
-const char* Length_Verb(bool leap) { return leap ? "Get Max Days Leap Year" : "Get Max Days"; }
-
-}  // namespace
-
 void Form1::Draw_Month(int first_weekday, int length, int prior_length) {
   const calendar::Grid grid = engine::Draw_Month_Cells(first_weekday, length, prior_length, 0);
   face.Write_Grid(grid);
   Window<frmLargeCalendar>().face.Write_Grid(grid);
 }
 
+engine::YearMonth Form1::Month_On_Show() const {
+  const Value month = engine::Define_Month(controls::Caption(lblStoreMonth), "Get Month Number");
+  return {Value(controls::Caption(lblStoreYear)).whole(), static_cast<int>(month.number())};
+}
+
 void Form1::Display_Next_Month_On_Calendar() {
   const std::string style = Style_On_Show();
-  long long month = static_cast<long long>(engine::Define_Month(controls::Caption(lblStoreMonth), "Get Month Number").number());
-  long long year = Value(controls::Caption(lblStoreYear)).whole();
-  if (year > 1000000) {
+  const std::optional<engine::YearMonth> next = engine::Next_Month_Step(Month_On_Show());
+  if (!next) {
     Enable_Next_Month(false);
     return;
   }
   Enable_Prior_Month(true);
-  const int first_weekday = calendar::Weekday_Of_Next_First(face.Date_Captions());
-  if (++month == 13) {
-    month = 1;
-    ++year;
-  }
-  Show_Stepped_Month(month, year, style, first_weekday);
+  Show_Stepped_Month(*next, style, calendar::Weekday_Of_Next_First(face.Date_Captions()));
 }
 
 void Form1::Display_Prior_Month_On_Calendar() {
   const std::string style = Style_On_Show();
-  const std::string month_name = controls::Caption(lblStoreMonth);
-  long long month = static_cast<long long>(engine::Define_Month(month_name, "Get Month Number").number());
-  long long year = Value(controls::Caption(lblStoreYear)).whole();
-  const bool before_gregorian =
-      year < 1582 || (year == 1582 && month_name != "November" && month_name != "December");
-  if ((style == "Gregorian" && before_gregorian) || (style == "Julian" && year < 2)) {
+  const engine::CalendarStyle calendar_style = engine::Calendar_Style_Of(style);
+  const std::optional<engine::YearMonth> prior = engine::Prior_Month_Step(Month_On_Show(), calendar_style);
+  if (!prior) {
     Enable_Prior_Month(false);
     return;
   }
   Enable_Next_Month(true);
   const int shown_first = calendar::Weekday_Of_First(face.Date_Captions());
-  if (--month == 0) {
-    month = 12;
-    --year;
-  }
-  const bool leap = engine::Is_It_A_Leap_Year(year, style);
-  const int length = static_cast<int>(engine::Define_Month(month, Length_Verb(leap)).number());
-  Show_Stepped_Month(month, year, style, calendar::Weekday_Of_Prior_First(shown_first, length));
+  const int length = engine::Days_In_Month(*prior, calendar_style);
+  Show_Stepped_Month(*prior, style, calendar::Weekday_Of_Prior_First(shown_first, length));
 }
 
-void Form1::Show_Stepped_Month(long long month, long long year, const std::string& style, int first_weekday) {
-  const std::string month_name = engine::Define_Month(month, "Get Month Name").text();
-  const std::string year_text = std::to_string(year);
+void Form1::Show_Stepped_Month(engine::YearMonth month, const std::string& style, int first_weekday) {
+  const std::string month_name = engine::Full_Month_Name(month.month);
+  const std::string year_text = std::to_string(month.year);
   controls::Set_Caption(lblStoreMonth, month_name);
   controls::Set_Caption(lblStoreYear, year_text);
-  const bool leap = engine::Is_It_A_Leap_Year(year, style);
-  const int length = static_cast<int>(engine::Define_Month(month, Length_Verb(leap)).number());
   frmLargeCalendar& large = Window<frmLargeCalendar>();
   controls::Set_Caption(lblMonthYear, month_name + " " + year_text);
-  large.Show_Month_Heading(month_name + " " + year_text, style, month);
-  const int prior_length = static_cast<int>(engine::Define_Month(month - 1, Length_Verb(leap)).number());
-  Draw_Month(first_weekday, length, prior_length);
+  large.Show_Month_Heading(month_name + " " + year_text, style, month.month);
+  const engine::CalendarStyle calendar_style = engine::Calendar_Style_Of(style);
+  Draw_Month(first_weekday, engine::Days_In_Month(month, calendar_style),
+             engine::Days_In_Month(engine::Month_Before(month), calendar_style));
   large.Display_TaskList(style);
   Display_Side_Calendars(month_name, year_text, style);
   Display_Holidays_On_Calendar(style);
 }
 
 void Form1::Display_Side_Calendars(const Value& Month_Name, const Value& Year_, const std::string& CalStyle) {
-  struct Around {
-    std::string name;
-    long long year;
-    int length;
-  };
-  const long long shown_month = static_cast<long long>(engine::Define_Month(Month_Name, "Get Month Number").number());
-  const long long shown_year = Year_.whole();
-  auto month_at = [&](long long offset) {
-    long long m = shown_month + offset;
-    long long y = shown_year;
-    if (m <= 0) m += 12, --y;
-    if (m >= 13) m -= 12, ++y;
-    const bool leap = engine::Is_It_A_Leap_Year(y, CalStyle);
-    return Around{engine::Define_Month(m, "Get Month Name").text(), y,
-                  static_cast<int>(engine::Define_Month(m, Length_Verb(leap)).number())};
-  };
-  const Around before = month_at(-1);
-  const Around before_that = month_at(-2);
-  const Around after = month_at(+1);
+  const engine::YearMonth shown{Year_.whole(),
+                                static_cast<int>(engine::Define_Month(Month_Name, "Get Month Number").number())};
+  const engine::SideMonths side = engine::Side_Months(shown, engine::Calendar_Style_Of(CalStyle));
   const calendar::Captions captions = face.Date_Captions();
   frmLargeCalendar& large = Window<frmLargeCalendar>();
 
   const int shown_first_column = std::max(0, calendar::Weekday_Of_First(captions) - 1);
-  const int prior_column = calendar::Prior_Month_First_Column(shown_first_column, before.length);
-  const calendar::Grid prior = calendar::Fill_Side_Calendar(prior_column, before.length, before_that.length);
-  const std::string prior_name = before.name + " " + std::to_string(before.year);
+  const int prior_column = calendar::Prior_Month_First_Column(shown_first_column, side.before_length);
+  const calendar::Grid prior = calendar::Fill_Side_Calendar(prior_column, side.before_length, side.before_that_length);
+  const std::string prior_name = engine::Full_Month_Name(side.before.month) + " " + std::to_string(side.before.year);
 
   const calendar::NextFirst next_first = calendar::Next_Month_First(captions);
   const int last_day = next_first.last_day.empty() ? 0 : static_cast<int>(Value(next_first.last_day).whole());
-  const calendar::Grid next = calendar::Fill_Side_Calendar(std::max(0, next_first.column), after.length, last_day);
-  const std::string next_name = after.name + " " + std::to_string(after.year);
+  const calendar::Grid next = calendar::Fill_Side_Calendar(std::max(0, next_first.column), side.after_length, last_day);
+  const std::string next_name = engine::Full_Month_Name(side.after.month) + " " + std::to_string(side.after.year);
 
   for (CalendarFace* f : {&face, &large.face}) {
     controls::Set_Caption(f->lblPriorMonthName, prior_name);
@@ -369,9 +339,7 @@ void Form1::Activate_Large_Calendar() {
 
 void Form1::Terminate_This_Program(const std::string& PlaceOfOrigin) {
   if (PlaceOfOrigin != "Form_Unload") {
-    const int answer = Machine().Message_Box("Are you sure you want to exit Orrivane?", platform::vbYesNo,
-                                             platform::vbQuestion, "Confirm");
-    if (answer != platform::vbYes) return;
+    if (platform::Show_Message(kExitQuestion) != platform::vbYes) return;
   }
   // A file that is not there is no failure, and the second is tried whatever became of the first.
   Delete_File("Schedule.tmp");

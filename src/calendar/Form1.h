@@ -63,7 +63,7 @@ class Form1 : public QMainWindow {
   void Enable_Prior_Month(bool enabled);
   // Brings a month reached by stepping on both windows: the stores, headings and cells, then
   // the task lists and the side calendars.
-  void Show_Stepped_Month(long long month, long long year, const std::string& style, int first_weekday);
+  void Show_Stepped_Month(engine::YearMonth month, const std::string& style, int first_weekday);
   // Draws the month of a valid date on both windows with the date in red.
   void Draw_Selected_Date(const engine::CalendarrDate& date);
 
@@ -99,6 +99,8 @@ class Form1 : public QMainWindow {
 
   // The style on show, read back from the heading: "Gregorian", "Julian" or "".
   std::string Style_On_Show() const;
+  // The month on show, read back from lblStoreMonth and lblStoreYear.
+  engine::YearMonth Month_On_Show() const;
 
  protected:
   void showEvent(QShowEvent* event) override;

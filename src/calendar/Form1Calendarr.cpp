@@ -11,6 +11,7 @@
 #include "engine/calendar_engine.h"
 #include "organizer/date_time_text.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
 #include "core/sequential_file.h"
@@ -22,11 +23,7 @@ namespace {
 
 using engine::CalendarStyle;
 using platform::Machine;
-
-void Show_Message(const engine::EngineMessage& message) {
-  if (message.empty()) return;
-  Machine().Message_Box(message.text, platform::vbOKOnly, platform::vbExclamation, message.title);
-}
+using platform::Show_Message;
 
 CalendarStyle Style_Of(const std::string& text) {
   return engine::Calendar_Style_From_Text(text).value_or(CalendarStyle::Gregorian);

@@ -107,12 +107,12 @@ void frmLargeCalendar::Build_Controls() {
   cboShowTaskListFor = new DropDownComboBox(body, [this] { cboShowTaskListFor_DropDown(); });
   cboShowTaskListFor->setObjectName("cboShowTaskListFor");
   cboShowTaskListFor->setEditable(true);
-  for (int i = 0; i < 42; ++i) {
+  for (int i = 0; i < engine::kGridCells; ++i) {
     cboAppointments[i] = new QComboBox(body);
     cboAppointments[i]->setObjectName(controls::Array_Name("cboAppointments", i));
     cboAppointments[i]->hide();
   }
-  for (int i = 0; i < 42; ++i) {
+  for (int i = 0; i < engine::kGridCells; ++i) {
     lblCalHoliday[i] = Make_Label(body, controls::Array_Name("lblCalHoliday", i).toUtf8().constData());
     lblCalHoliday[i]->setWordWrap(true);
     lblCalHoliday[i]->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
@@ -182,17 +182,16 @@ void frmLargeCalendar::Display_TaskList(const std::string& Cal_Style) {
   if (Cal_Style == "Julian") return;
   const Form1& main = Window<Form1>();
   calendar::ShownMonth shown;
-  shown.year = Value(controls::Caption(main.lblStoreYear)).whole();
-  shown.month = static_cast<long long>(engine::Define_Month(controls::Caption(main.lblStoreMonth), "Get Month Number").number());
-  const bool leap = engine::Is_It_A_Leap_Year(shown.year, "Gregorian");
-  shown.length = static_cast<long long>(
-      engine::Define_Month(shown.month, leap ? "Get Max Days Leap Year" : "Get Max Days").number());
+  const engine::YearMonth on_show = main.Month_On_Show();
+  shown.year = on_show.year;
+  shown.month = on_show.month;
+  shown.length = engine::Days_In_Month(on_show, engine::CalendarStyle::Gregorian);
   const calendar::Captions captions = face.Date_Captions();
-  for (int cell = 0; cell <= 6; ++cell) {
+  for (int cell = 0; cell < engine::kGridColumns; ++cell) {
     if (Value(captions[cell]) == Value(1)) shown.first_cell = cell;
   }
   shown.first_caption = Value(captions[0]).whole();
-  shown.last_caption = Value(captions[41]).whole();
+  shown.last_caption = Value(captions[engine::kLastGridCell]).whole();
   const std::string member = cboShowTaskListFor->currentText().toStdString();
 
   SequentialReader log("Schedule.tmp");
@@ -292,7 +291,7 @@ void frmLargeCalendar::Place_Controls() {
   // Each day's list of tasks lies over the lower part of its cell, its holiday just above.
   QFont small = lblCalHoliday[0]->font();
   small.setPixelSize(11);
-  for (int i = 0; i < 42; ++i) {
+  for (int i = 0; i < engine::kGridCells; ++i) {
     const QRect cell = face.lblCalDate[i]->geometry();
     cboAppointments[i]->setGeometry(cell.x() + 2, cell.bottom() - 26, cell.width() - 4, 24);
     cboAppointments[i]->raise();

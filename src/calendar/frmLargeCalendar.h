@@ -21,8 +21,8 @@ class frmLargeCalendar : public QMainWindow {
   frmLargeCalendar();
 
   CalendarFace face;
-  std::array<QComboBox*, 42> cboAppointments{};
-  std::array<QLabel*, 42> lblCalHoliday{};  // the holiday of each day cell, in small text
+  std::array<QComboBox*, engine::kGridCells> cboAppointments{};
+  std::array<QLabel*, engine::kGridCells> lblCalHoliday{};  // the holiday of each day cell, in small text
   QComboBox* cboShowTaskListFor;
   QLabel* Label1;
   QLabel* lblMonthNumber;

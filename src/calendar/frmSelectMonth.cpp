@@ -11,16 +11,10 @@
 #include "core/value.h"
 #include "engine/calendar_engine.h"
 #include "platform/controls.h"
-#include "platform/platform.h"
+#include "platform/message_box.h"
 #include "platform/window_registry.h"
 
 namespace orrivane {
-
-namespace {
-
-using platform::Machine;
-
-}  // namespace
 
 frmSelectMonth::frmSelectMonth() {
   setObjectName("frmSelectMonth");
@@ -101,9 +95,8 @@ void frmSelectMonth::Form_Deactivate() {
 }
 
 void frmSelectMonth::Show_Entry_Message(int status) {
-  const engine::EngineMessage message = calendar::Select_Month_Entry_Message(status);
   showing_message_ = true;
-  Machine().Message_Box(message.text, platform::vbOKOnly, platform::vbExclamation, message.title);
+  platform::Show_Message(calendar::Select_Month_Entry_Message(status));
   showing_message_ = false;
 }
 

@@ -2,18 +2,26 @@
 
 namespace orrivane::calendar {
 
+namespace {
+
+using engine::kGridColumns;
+using engine::kLastGridCell;
+constexpr int kLastColumn = kGridColumns - 1;  // Saturday
+
+}  // namespace
+
 int Weekday_Of_Next_First(const Captions& captions) {
   int found = -1;
-  for (int cell = 14; cell <= 41; ++cell) {
+  for (int cell = 14; cell <= kLastGridCell; ++cell) {
     if (captions[cell] == "1") found = cell;
   }
   if (found < 0) return 0;
-  const int weekday = (found + 1) % 7;
+  const int weekday = (found + 1) % kGridColumns;
   return weekday == 0 ? 7 : weekday;
 }
 
 int Weekday_Of_First(const Captions& captions) {
-  for (int cell = 0; cell <= 6; ++cell) {
+  for (int cell = 0; cell < kGridColumns; ++cell) {
     if (captions[cell] == "1") return cell + 1;
   }
   return 0;
@@ -30,27 +38,27 @@ int Weekday_Of_Prior_First(int first_weekday, int prior_length) {
 Grid Fill_Side_Calendar(int first_column, int length, int prior_length) {
   Grid grid = engine::Draw_Month_Cells(first_column + 1, length, prior_length, 0);
   for (engine::CalendarCell& cell : grid) {
-    if (cell.colour == engine::kGreyTextColour) cell.colour = kButtonFace;
+    if (cell.colour == colours::kGrayText) cell.colour = colours::kButtonFace;
   }
   return grid;
 }
 
 int Prior_Month_First_Column(int shown_first_column, int prior_length) {
   int column = shown_first_column;
-  for (int day = 0; day < prior_length; ++day) column = column == 0 ? 6 : column - 1;
+  for (int day = 0; day < prior_length; ++day) column = column == 0 ? kLastColumn : column - 1;
   return column;
 }
 
 NextFirst Next_Month_First(const Captions& captions) {
   NextFirst found;
   int column = 0;
-  for (int cell = 28; cell <= 41; ++cell) {
+  for (int cell = 28; cell <= kLastGridCell; ++cell) {
     if (captions[cell] == "1") {
       found.column = column;
       found.last_day = captions[cell - 1];
       break;
     }
-    column = column == 6 ? 0 : column + 1;
+    column = column == kLastColumn ? 0 : column + 1;
   }
   return found;
 }

@@ -9,11 +9,8 @@
 
 namespace orrivane::calendar {
 
-// The hidden days of the side calendars take the colour of the background behind them.
-constexpr unsigned kButtonFace = 0x8000000F;
-
 using Grid = engine::MonthGrid;
-using Captions = std::array<std::string, 42>;
+using Captions = std::array<std::string, engine::kGridCells>;
 
 // Weekday of the first of the month after the one on show, read off the cells 14 to 41: the
 // last "1" there wins, as the search runs to the end; 0 when there is none.
@@ -25,7 +22,8 @@ int Weekday_Of_First(const Captions& captions);
 int Weekday_Of_Prior_First(int first_weekday, int prior_length);
 
 // The side calendars: the days of the month in the button-text colour from `first_column`
-// (0 to 6) on, the other cells in the button-face colour, those before with the last days of
+// (0 to 6) on, the other cells in the button-face colour (hidden: the colour of the background
+// behind them), those before with the last days of
 // the month before, those after with 1, 2, 3 ...
 Grid Fill_Side_Calendar(int first_column, int length, int prior_length);
 

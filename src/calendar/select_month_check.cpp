@@ -4,12 +4,11 @@
 
 #include "core/runtime_failure.h"
 #include "core/value.h"
+#include "engine/calendar_engine.h"
 
 namespace orrivane::calendar {
 
 namespace {
-
-constexpr double kLastYear = 1000000;
 
 // The number the year text stands for; nothing when it is no number (or too large to hold,
 // which fails the conversion just the same).
@@ -21,10 +20,10 @@ std::optional<double> Year_Number(const std::string& year_text) {
   }
 }
 
-// The Gregorian calendar begins in October 1582.
+// The Gregorian calendar begins in October 1582; a month that is not chosen lies before it.
 bool Before_Gregorian_Calendar(const std::string& month, double year) {
-  if (year < 1582) return true;
-  return year == 1582 && month != "October" && month != "November" && month != "December";
+  if (year != engine::kFirstGregorianYear) return year < engine::kFirstGregorianYear;
+  return engine::Full_Month_Number(month) < engine::kFirstGregorianMonth;
 }
 
 }  // namespace
@@ -41,7 +40,7 @@ int Select_Month_Entry_Status(const std::string& month, const std::string& year_
     error(kNoYearEntered);
   } else if (const std::optional<double> year = Year_Number(year_text); !year) {
     error(kYearNotANumber);  // the year tests cannot be made
-  } else if (*year > kLastYear || (*year < 0 && style == "Julian")) {
+  } else if (*year > engine::kLastYear || (*year < engine::kFirstJulianYear && style == "Julian")) {
     error(kYearOutOfRange);
   } else if (style == "Gregorian" && Before_Gregorian_Calendar(month, *year)) {
     error(kBeforeGregorianCalendar);
@@ -50,19 +49,22 @@ int Select_Month_Entry_Status(const std::string& month, const std::string& year_
   return status;
 }
 
-engine::EngineMessage Select_Month_Entry_Message(int status) {
-  switch (status) {
-    case kNoMonthSelected: return {"No Month Selected", "A month must be selected."};
-    case kNoYearEntered: return {"No Year Entered", "A year must be entered."};
-    case kYearOutOfRange: return {"Invalid Year Entry", "Please enter a value from 1 to 1000000."};
-    case kBeforeGregorianCalendar:
-      return {"Invalid Month Selection", std::string("For the Gregorian Calendar, please make sure the ") +
-                                             engine::kCarriageReturn + "month selected is October 1582 or later."};
-    case kYearNotANumber: return {"Invalid Year Entry", "The year must contain only numbers."};
-    case kSeveralEntryErrors:
-      return {"Error", "Please select a month and enter a valid year in the year field."};
-    default: return {};
-  }
-}
+namespace {
+
+const CodedMessage kEntryMessages[] = {
+    {kNoMonthSelected, Exclamation_Message("No Month Selected", "A month must be selected.")},
+    {kNoYearEntered, Exclamation_Message("No Year Entered", "A year must be entered.")},
+    {kYearOutOfRange, Exclamation_Message("Invalid Year Entry", "Please enter a value from 1 to 1000000.")},
+    {kBeforeGregorianCalendar,
+     Exclamation_Message("Invalid Month Selection", std::string("For the Gregorian Calendar, please make sure the ") +
+                                                        kCarriageReturn + "month selected is October 1582 or later.")},
+    {kYearNotANumber, Exclamation_Message("Invalid Year Entry", "The year must contain only numbers.")},
+    {kSeveralEntryErrors,
+     Exclamation_Message("Error", "Please select a month and enter a valid year in the year field.")},
+};
+
+}  // namespace
+
+Message Select_Month_Entry_Message(int status) { return Message_Of(kEntryMessages, status); }
 
 }  // namespace orrivane::calendar

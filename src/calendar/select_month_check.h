@@ -3,7 +3,7 @@
 // year must be a number in reach of the calendar style. Shared by the window and the command line.
 #include <string>
 
-#include "engine/calendar_engine.h"
+#include "core/message.h"
 
 namespace orrivane::calendar {
 
@@ -24,6 +24,6 @@ enum Select_Month_Status : int {
 int Select_Month_Entry_Status(const std::string& month, const std::string& year_text, const std::string& style);
 
 // Title and text of a status 1 to 6; empty for 0 or an unknown status.
-engine::EngineMessage Select_Month_Entry_Message(int status);
+Message Select_Month_Entry_Message(int status);
 
 }  // namespace orrivane::calendar

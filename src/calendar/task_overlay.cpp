@@ -6,14 +6,12 @@ namespace orrivane::calendar {
 
 namespace {
 
-std::string Month_Name(long long month) {
-  if (month == 0) month = 12;
-  if (month == 13) month = 1;
-  return engine::Define_Month(month, "Get Month Name").text();
+void Add_If_On_Grid(std::vector<int>& cells, long long cell) {
+  if (cell >= 0 && cell <= engine::kLastGridCell) cells.push_back(static_cast<int>(cell));
 }
 
-void Add_If_On_Grid(std::vector<int>& cells, long long cell) {
-  if (cell >= 0 && cell <= 41) cells.push_back(static_cast<int>(cell));
+bool Is_Month(const std::string& name, long long year, engine::YearMonth month) {
+  return name == engine::Full_Month_Name(month.month) && year == month.year;
 }
 
 }  // namespace
@@ -21,16 +19,15 @@ void Add_If_On_Grid(std::vector<int>& cells, long long cell) {
 std::vector<int> Task_Cells(const ShownMonth& shown, const std::string& start_month, long long start_date,
                             long long year) {
   std::vector<int> cells;
-  if (start_month == Month_Name(shown.month) && year == shown.year) {
+  const engine::YearMonth on_show{shown.year, static_cast<int>(shown.month)};
+  if (Is_Month(start_month, year, on_show)) {
     Add_If_On_Grid(cells, shown.first_cell - 1 + start_date);
   }
-  const long long prior_year = shown.month == 1 ? shown.year - 1 : shown.year;
-  if (start_month == Month_Name(shown.month - 1) && year == prior_year && start_date >= shown.first_caption &&
+  if (Is_Month(start_month, year, engine::Month_Before(on_show)) && start_date >= shown.first_caption &&
       start_date > 7) {
     Add_If_On_Grid(cells, start_date - shown.first_caption);
   }
-  const long long next_year = shown.month == 12 ? shown.year + 1 : shown.year;
-  if (start_month == Month_Name(shown.month + 1) && year == next_year && start_date <= shown.last_caption) {
+  if (Is_Month(start_month, year, engine::Month_After(on_show)) && start_date <= shown.last_caption) {
     Add_If_On_Grid(cells, start_date + shown.first_cell - 1 + shown.length);
   }
   return cells;

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::int64_t kFirstDate = 1;
 constexpr std::int64_t kLastDate = 31;
-constexpr std::int64_t kLastYear = 1'000'000;
 
 // The value of a text of digits, or nothing when it exceeds `largest` (however many digits).
 std::optional<std::int64_t> Digits_Up_To(const std::string& digits, std::int64_t largest) {
@@ -53,7 +52,7 @@ std::int64_t Date_Of(const std::string& date) {
 }
 
 std::int64_t Year_Of(const std::string& year) {
-  const std::optional<std::int64_t> value = Is_All_Digits(year) ? Digits_Up_To(year, kLastYear) : std::nullopt;
+  const std::optional<std::int64_t> value = Is_All_Digits(year) ? Digits_Up_To(year, engine::kLastYear) : std::nullopt;
   if (!value) throw Command_Error(calendar::Select_Month_Entry_Message(calendar::kYearOutOfRange));
   return *value;
 }

@@ -13,14 +13,13 @@ namespace orrivane::cli {
 
 namespace {
 
-constexpr int kColumns = 7;
 constexpr char kWeekdayHeading[] = " S  M  T  W  T  F  S";
 
 // One row of the grid: each caption right-aligned in two characters, one blank between cells.
 std::string Grid_Row(const engine::MonthGrid& grid, int row) {
   std::string line;
-  for (int column = 0; column < kColumns; ++column) {
-    const std::string& caption = grid[static_cast<std::size_t>(row * kColumns + column)].caption;
+  for (int column = 0; column < engine::kGridColumns; ++column) {
+    const std::string& caption = grid[static_cast<std::size_t>(row * engine::kGridColumns + column)].caption;
     if (column > 0) line.push_back(' ');
     if (caption.size() < 2) line.append(2 - caption.size(), ' ');
     line.append(caption);
@@ -55,7 +54,7 @@ void Run_Month(const Arguments& arguments, Command_Context& context) {
   const engine::MonthGrid grid = engine::Select_Month_Grid(month, year, style);
   context.out.Line(month + " " + std::to_string(year));
   context.out.Line(kWeekdayHeading);
-  for (int row = 0; row < engine::kGridCells / kColumns; ++row) context.out.Line(Grid_Row(grid, row));
+  for (int row = 0; row < engine::kGridRows; ++row) context.out.Line(Grid_Row(grid, row));
 }
 
 // The date in the other style and the days between, as the Date Conversion window shows them.

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "engine/calendar_engine.h"
+#include "core/message.h"
 
 namespace orrivane::cli {
 
@@ -13,7 +13,7 @@ class Command_Error : public std::runtime_error {
  public:
   Command_Error(std::string title, std::string text)
       : std::runtime_error(title + ": " + text), title_(std::move(title)), text_(std::move(text)) {}
-  explicit Command_Error(const engine::EngineMessage& message) : Command_Error(message.title, message.text) {}
+  explicit Command_Error(const Message& message) : Command_Error(message.title, message.text) {}
 
   const std::string& title() const { return title_; }
   const std::string& text() const { return text_; }

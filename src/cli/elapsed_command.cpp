@@ -125,8 +125,7 @@ void Run_Elapsed(const Arguments& arguments, Command_Context& context) {
 
   const elapsed::Selection_Check check = elapsed::Check_Time_Selections(time_1, time_2, style);
   if (check.Code != 0) {
-    const elapsed::Time_Length_Message message = elapsed::Find_Time_Length_Message(check);
-    throw Command_Error(message.Title, message.Text);
+    throw Command_Error(elapsed::Find_Time_Length_Message(check));
   }
   const elapsed::Display_Option option = total ? elapsed::Display_Option::Total : elapsed::Display_Option::Remaining;
   const std::optional<elapsed::Time_Rows> rows = elapsed::Display_Time_Difference(

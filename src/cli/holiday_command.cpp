@@ -44,8 +44,7 @@ void By_Holiday(const std::string& name, Year_Boxes years, Output& out) {
       holidays::Display_Holiday_II(name, years.from, years.to, holidays::kFindAHolidayCaller,
                                    {.by_holiday = true, .range_of_years = years.range_of_years}, printer);
   if (answer.error_code != holidays::kHolidayNoError) {
-    const holidays::Holiday_Message message = holidays::Holiday_Error_Message(answer.error_code, name);
-    throw Command_Error(message.title, message.text);
+    throw Command_Error(holidays::Holiday_Error_Message(answer.error_code, name));
   }
 }
 
@@ -53,8 +52,7 @@ void All_By_Year(const Year_Boxes& years, Output& out) {
   const holidays::All_Holidays_Years checked =
       holidays::Check_Years_For_All_Holidays(years.from, years.to, years.range_of_years);
   if (checked.error_code != holidays::kHolidayNoError) {
-    const holidays::Holiday_Message message = holidays::All_Holidays_Error_Message(checked.error_code);
-    throw Command_Error(message.title, message.text);
+    throw Command_Error(holidays::All_Holidays_Error_Message(checked.error_code));
   }
   Line_Printer printer(out);
   holidays::Display_All_Holidays_For_Years(checked.from, checked.to, printer);

@@ -5,6 +5,7 @@
 
 #include "core/runtime_failure.h"
 #include "core/text.h"
+#include "core/whole_numbers.h"
 #include "elapsed/decimal_text.h"
 #include "engine/calendar_engine.h"
 
@@ -27,32 +28,14 @@ void Check_Moment(const Moment& moment) {
 
 auto Order_Key(const Moment& m) { return std::tie(m.Four_Digit_Year, m.Month_Number, m.Date, m.Hour, m.Minute); }
 
-// The engine's month lengths of a common and of a leap year, looked up once: a month whose two
-// lengths agree needs no leap test, so a walk of eleven months asks about its year at most once
-// and costs the same in any year.
-struct Month_Lengths {
-  std::array<long long, 13> common{};
-  std::array<long long, 13> leap{};
-};
-
-const Month_Lengths& Lengths_Of_The_Engine() {
-  static const Month_Lengths lengths = [] {
-    Month_Lengths table;
-    for (int month = 1; month <= 12; ++month) {
-      table.common[month] = static_cast<long long>(engine::Define_Month(month, "Get Max Days").number());
-      table.leap[month] = static_cast<long long>(engine::Define_Month(month, "Get Max Days Leap Year").number());
-    }
-    return table;
-  }();
-  return lengths;
+// As Is_It_A_Valid_Date(month, "Get Max Days", year, Cal_Style) answers it.
+long long Month_Length(engine::YearMonth month, const std::string& Cal_Style) {
+  return engine::Days_In_Month(month, engine::Calendar_Style_Of(Cal_Style));
 }
 
-// As Is_It_A_Valid_Date(month, "Get Max Days", year, Cal_Style) answers it.
-long long Month_Length(long long month, long long year, const std::string& Cal_Style) {
-  const Month_Lengths& lengths = Lengths_Of_The_Engine();
-  const auto m = static_cast<std::size_t>(month);
-  if (lengths.common[m] == lengths.leap[m]) return lengths.common[m];
-  return engine::Is_It_A_Leap_Year(year, Cal_Style) ? lengths.leap[m] : lengths.common[m];
+// The month of a moment: every field lies in its range once the moment is checked.
+engine::YearMonth Month_Of(const Moment& moment) {
+  return {moment.Four_Digit_Year, static_cast<int>(moment.Month_Number)};
 }
 
 // Field-wise subtraction of E from L with borrows. The day borrow takes the length of the month
@@ -69,10 +52,7 @@ void Subtract_Fields(const std::string& Cal_Style, Moment later, const Moment& e
   }
   pieces.Hours = later.Hour - earlier.Hour;
   if (later.Date < earlier.Date) {
-    const bool from_january = later.Month_Number == 1;
-    const long long month_before = from_january ? 12 : later.Month_Number - 1;
-    const long long its_year = from_january ? later.Four_Digit_Year - 1 : later.Four_Digit_Year;
-    later.Date += Month_Length(month_before, its_year, Cal_Style);
+    later.Date += Month_Length(engine::Month_Before(Month_Of(later)), Cal_Style);
     later.Month_Number -= 1;  // a 0 left here is always corrected by the month borrow
   }
   pieces.Days = later.Date - earlier.Date;
@@ -96,37 +76,25 @@ long long Years_In_Days(const std::string& Cal_Style, const Moment& earlier, lon
 long long Months_In_Days(const std::string& Cal_Style, const Moment& later, const Moment& earlier, long long months) {
   const bool past_anniversary = std::tie(later.Month_Number, later.Date, later.Hour, later.Minute) >=
                                 std::tie(earlier.Month_Number, earlier.Date, earlier.Hour, earlier.Minute);
-  long long year = past_anniversary ? later.Four_Digit_Year : later.Four_Digit_Year - 1;
-  long long month = earlier.Month_Number;
+  engine::YearMonth month{past_anniversary ? later.Four_Digit_Year : later.Four_Digit_Year - 1,
+                          static_cast<int>(earlier.Month_Number)};
   long long days = 0;
   for (long long walked = 0; walked < months; ++walked) {
-    days += Month_Length(month, year, Cal_Style);
-    if (++month == 13) {
-      month = 1;
-      ++year;
-    }
+    days += Month_Length(month, Cal_Style);
+    month = engine::Month_After(month);
   }
   return days;
-}
-
-long long Floor_Division(long long a, long long b) { return a / b - (a % b != 0 && (a < 0) != (b < 0) ? 1 : 0); }
-
-// The multiples of `of` up to first - 1 are those up to first, less first itself when it is one;
-// first - 1 itself would leave the range of long long for the smallest year.
-long long Multiples_Between(long long first, long long last, long long of) {
-  const long long before_first = Floor_Division(first, of) - (first % of == 0 ? 1 : 0);
-  return Floor_Division(last, of) - before_first;
 }
 
 }  // namespace
 
 long long Count_Leap_Years(long long First_Year, long long Last_Year, const std::string& Cal_Style) {
   if (Last_Year < First_Year) return 0;
-  const long long fourth_years = Multiples_Between(First_Year, Last_Year, 4);
+  const long long fourth_years = Count_Multiples(First_Year, Last_Year, 4);
   // The same test as Is_It_A_Leap_Year: every style but "Julian" drops the centuries that 400
   // does not divide.
   if (Cal_Style == "Julian") return fourth_years;
-  return fourth_years - Multiples_Between(First_Year, Last_Year, 100) + Multiples_Between(First_Year, Last_Year, 400);
+  return fourth_years - Count_Multiples(First_Year, Last_Year, 100) + Count_Multiples(First_Year, Last_Year, 400);
 }
 
 Time_Difference Work_Out_Time_Difference(const std::string& Cal_Style, const Moment& Moment_1, const Moment& Moment_2) {

@@ -11,6 +11,7 @@
 #include "engine/calendar_engine.h"
 #include "organizer/date_time_text.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
 
@@ -350,8 +351,7 @@ void frmFindDateDifference::cmdENTER_Click() {
 
   const elapsed::Selection_Check check = elapsed::Check_Time_Selections(sides[0], sides[1], style);
   if (check.Code != 0) {
-    const elapsed::Time_Length_Message message = elapsed::Find_Time_Length_Message(check);
-    Machine().Message_Box(message.Text, platform::vbOKOnly, platform::vbExclamation, message.Title);
+    platform::Show_Message(elapsed::Find_Time_Length_Message(check));
     return;
   }
   controls::Set_Caption(lblTime1, elapsed::Moment_Text(sides[0]));

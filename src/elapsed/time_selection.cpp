@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <array>
 
+#include "core/whole_numbers.h"
 #include "engine/calendar_engine.h"
 
 namespace orrivane::elapsed {
 
 namespace {
-
-long long Floor_Division(long long a, long long b) { return a / b - (a % b != 0 && (a < 0) != (b < 0) ? 1 : 0); }
 
 void Fill_Pair(std::string& coarse, std::string& fine, const std::string& now_coarse, const std::string& now_fine,
                const std::string& fine_under_a_choice) {
@@ -25,7 +24,7 @@ void Fill_Pair(std::string& coarse, std::string& fine, const std::string& now_co
 
 Time_Selection Selection_At(const std::string& Month_Name, long long Date, long long Year, long long Hour,
                             long long Minute) {
-  const long long century = Floor_Division(Year, 100);
+  const long long century = Floor_Div(Year, 100);
   // The year in the century as a floored remainder: century * 100 leaves the range of long long
   // for the smallest years.
   const long long year_in_century = (Year % 100 + 100) % 100;
@@ -110,7 +109,7 @@ bool Is_Before_Gregorian_Start(const Time_Selection& side) {
   const double year = Year_Of(side).number();
   const double month = engine::Define_Month(side.Month, "Get Month Number").number();
   const double date = Value(side.Date).number();
-  return year < 1582 || (year == 1582 && month < 10) || (year == 1582 && month == 10 && date < 15);
+  return engine::Is_Before_Gregorian_Start(year, month, date);
 }
 
 Group Before_Gregorian_Start(const std::array<const Time_Selection*, kSides>& sides) {
@@ -143,43 +142,39 @@ Selection_Check Check_Time_Selections(const Time_Selection& Time_1, const Time_S
 
 namespace {
 
-struct Message_Row {
-  int code;
-  const char* title;
-  const char* text;  // for 8 and 9 the end of the text, after the month's length
+// For 8 and 9 the text is the end of the message, after the month's length.
+const CodedMessage kMessages[] = {
+    {1, Exclamation_Message("No Date Selected", "'Time 1' month selected without a corresponding date.")},
+    {2, Exclamation_Message("No Date Selected", "'Time 2' month selected without a corresponding date.")},
+    {7, Exclamation_Message("No Dates Selected", "When a month is selected, a date must also be selected.")},
+    {8, Exclamation_Message("Invalid Date", " days in it for the year you selected for 'Time 1'.")},
+    {9, Exclamation_Message("Invalid Date", " days in it for the year you selected for 'Time 2'.")},
+    {10, Exclamation_Message("Invalid Year", "The year field for 'Time 1' contains non-numeric characters")},
+    {11, Exclamation_Message("Invalid Year", "The year field for 'Time 2' contains non-numeric characters")},
+    {12,
+     Exclamation_Message("Invalid Year", "Please make sure the year value for 'Time 1' is a value from 0 to 10000")},
+    {13,
+     Exclamation_Message("Invalid Year", "Please make sure the year value for 'Time 2' is a value from 0 to 10000")},
+    {14, Exclamation_Message("Invalid Selections Detected", "Please check that all date and time entries are valid.")},
+    {15, Exclamation_Message("Invalid Gregorian Date",
+                             "Please be sure the date for 'Time 1' falls on or after October 15, 1582")},
+    {16, Exclamation_Message("Invalid Gregorian Date",
+                             "Please be sure the date for 'Time 2' falls on or after October 15, 1582")},
+    {17, Exclamation_Message("Invalid Dates", "Gregorian dates cannot be before October 15, 1582")},
 };
 
-constexpr std::array<Message_Row, 13> kMessages{{
-    {1, "No Date Selected", "'Time 1' month selected without a corresponding date."},
-    {2, "No Date Selected", "'Time 2' month selected without a corresponding date."},
-    {7, "No Dates Selected", "When a month is selected, a date must also be selected."},
-    {8, "Invalid Date", " days in it for the year you selected for 'Time 1'."},
-    {9, "Invalid Date", " days in it for the year you selected for 'Time 2'."},
-    {10, "Invalid Year", "The year field for 'Time 1' contains non-numeric characters"},
-    {11, "Invalid Year", "The year field for 'Time 2' contains non-numeric characters"},
-    {12, "Invalid Year", "Please make sure the year value for 'Time 1' is a value from 0 to 10000"},
-    {13, "Invalid Year", "Please make sure the year value for 'Time 2' is a value from 0 to 10000"},
-    {14, "Invalid Selections Detected", "Please check that all date and time entries are valid."},
-    {15, "Invalid Gregorian Date", "Please be sure the date for 'Time 1' falls on or after October 15, 1582"},
-    {16, "Invalid Gregorian Date", "Please be sure the date for 'Time 2' falls on or after October 15, 1582"},
-    {17, "Invalid Dates", "Gregorian dates cannot be before October 15, 1582"},
-}};
-
 // Only February's message says that the length depends on the year.
-std::string Invalid_Date_Text(const Selection_Check& check, const char* february_ending) {
+std::string Invalid_Date_Text(const Selection_Check& check, const std::string& february_ending) {
   const std::string ending = check.Month_Name == "February" ? february_ending : " days in it.";
   return check.Month_Name + " only has " + std::to_string(check.Month_Length) + ending;
 }
 
 }  // namespace
 
-Time_Length_Message Find_Time_Length_Message(const Selection_Check& Check) {
-  for (const Message_Row& row : kMessages) {
-    if (row.code != Check.Code) continue;
-    const bool invalid_date = row.code == 8 || row.code == 9;
-    return {row.title, invalid_date ? Invalid_Date_Text(Check, row.text) : row.text};
-  }
-  return {};
+Message Find_Time_Length_Message(const Selection_Check& Check) {
+  Message message = Message_Of(kMessages, Check.Code);
+  if (Check.Code == 8 || Check.Code == 9) message.text = Invalid_Date_Text(Check, message.text);
+  return message;
 }
 
 long long Selected_Year(const Time_Selection& Selection) { return Year_Of(Selection).whole(); }

@@ -4,6 +4,7 @@
 // those messages, and the moment text its labels hold. Shared by the window and the command line.
 #include <string>
 
+#include "core/message.h"
 #include "elapsed/date_difference.h"
 
 namespace orrivane::elapsed {
@@ -49,12 +50,8 @@ struct Selection_Check {
 Selection_Check Check_Time_Selections(const Time_Selection& Time_1, const Time_Selection& Time_2,
                                       const std::string& Cal_Style);
 
-// Title and text of a message code of the window; both empty for 0 or an unknown code.
-struct Time_Length_Message {
-  std::string Title;
-  std::string Text;
-};
-Time_Length_Message Find_Time_Length_Message(const Selection_Check& Check);
+// The message of a message code of the window; the empty message for 0 or an unknown code.
+Message Find_Time_Length_Message(const Selection_Check& Check);
 
 // The full year of a selection: year in century + century x 100.
 long long Selected_Year(const Time_Selection& Selection);

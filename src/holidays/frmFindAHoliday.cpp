@@ -11,6 +11,7 @@
 #include "holidays/holiday_list_file.h"
 #include "holidays/holiday_list_print.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
 #include "shell/frmOpenFile.h"
@@ -64,10 +65,6 @@ void Set_Text_Box_Color(QLineEdit* box, unsigned colour) {
 }
 
 std::string Text_Of(const QLineEdit* box) { return box->text().toStdString(); }
-
-void Exclamation(const holidays::Holiday_Message& message) {
-  Machine().Message_Box(message.text, platform::vbOKOnly, platform::vbExclamation, message.title);
-}
 
 }  // namespace
 
@@ -276,7 +273,9 @@ void frmFindAHoliday::Display_Holiday_II(const std::string& HolidaySelection, co
     answer = holidays::Display_Holiday_II(HolidaySelection, FromYear, ToYear, Calling_Sub_Origin, options, feed);
     feed.Finish();
   }
-  if (answer.message_wanted) Exclamation(holidays::Holiday_Error_Message(answer.error_code, HolidaySelection));
+  if (answer.message_wanted) {
+    platform::Show_Message(holidays::Holiday_Error_Message(answer.error_code, HolidaySelection));
+  }
   if (answer.error_code != holidays::kHolidayNoError) return;
   InterFunction_Counter("Add", 1);
   if (Calling_Sub_Origin != holidays::kFindAHolidayCaller) return;
@@ -288,7 +287,7 @@ void frmFindAHoliday::Display_All_By_Year(const Value& FromYear, const Value& To
   const holidays::All_Holidays_Years years =
       holidays::Check_Years_For_All_Holidays(FromYear, ToYear, chkSelectRangeOfYears->isChecked());
   if (years.error_code != holidays::kHolidayNoError) {
-    Exclamation(holidays::All_Holidays_Error_Message(years.error_code));
+    platform::Show_Message(holidays::All_Holidays_Error_Message(years.error_code));
     return;
   }
   InterFunction_Counter("Set Equal To", 0);
@@ -435,10 +434,7 @@ void frmFindAHoliday::mnuOpenFile_Click() {
 }
 
 void frmFindAHoliday::mnuPrintHolidayList_Click() {
-  const holidays::Print_Question question = holidays::Holiday_List_Print_Question(List_Count());
-  const int buttons = question.yes_no ? platform::vbYesNo : platform::vbOKCancel;
-  const int icon = question.yes_no ? platform::vbQuestion : platform::vbNoIcon;
-  const int answer = Machine().Message_Box(question.text, buttons, icon, question.title);
+  const int answer = platform::Show_Message(holidays::Holiday_List_Print_Question(List_Count()));
   if (answer == platform::vbNo || answer == platform::vbCancel) return;
   Print_Holiday_List();
 }

@@ -31,23 +31,22 @@ int First_Cell_With_One(const Holiday_Cells& captions, int from, int to) {
   return 0;
 }
 
-std::string Month_Name(std::int64_t month) { return engine::Define_Month(month, "Get Month Name").text(); }
-
 Layout Layout_Of(const std::string& month_name, const Value& year, const Holiday_Cells& captions) {
   Layout shown;
   shown.month = month_name;
-  shown.year = shown.prior_year = shown.next_year = year.whole();
-  const auto month = static_cast<std::int64_t>(engine::Define_Month(month_name, "Get Month Number").number());
-  std::int64_t prior = month - 1;
-  std::int64_t next = month + 1;
-  if (prior == 0) prior = 12, --shown.prior_year;
-  if (next == 13) next = 1, ++shown.next_year;
-  shown.prior_month = Month_Name(prior);
-  shown.next_month = Month_Name(next);
-  shown.first_cell = First_Cell_With_One(captions, 0, 6);
+  shown.year = year.whole();
+  const engine::YearMonth on_show{shown.year,
+                                  static_cast<int>(engine::Define_Month(month_name, "Get Month Number").number())};
+  const engine::YearMonth prior = engine::Month_Before(on_show);
+  const engine::YearMonth next = engine::Month_After(on_show);
+  shown.prior_month = engine::Full_Month_Name(prior.month);
+  shown.prior_year = prior.year;
+  shown.next_month = engine::Full_Month_Name(next.month);
+  shown.next_year = next.year;
+  shown.first_cell = First_Cell_With_One(captions, 0, engine::kGridColumns - 1);
   shown.first_date = static_cast<std::int64_t>(text::Val(captions[0]));
-  shown.next_first_cell = First_Cell_With_One(captions, 28, 41);
-  shown.last_date = static_cast<std::int64_t>(text::Val(captions[41]));
+  shown.next_first_cell = First_Cell_With_One(captions, 28, engine::kLastGridCell);
+  shown.last_date = static_cast<std::int64_t>(text::Val(captions[engine::kLastGridCell]));
   return shown;
 }
 

@@ -7,11 +7,12 @@
 #include <string_view>
 
 #include "core/value.h"
+#include "engine/calendar_engine.h"
 #include "holidays/holiday_rules.h"
 
 namespace orrivane::holidays {
 
-using Holiday_Cells = std::array<std::string, 42>;
+using Holiday_Cells = std::array<std::string, engine::kGridCells>;
 
 // The text of each of the 42 cells, worked out through the calendar's holiday table (which is
 // emptied and refilled on the way). `date_captions` are the captions of the date cells, the

@@ -61,11 +61,11 @@ std::string Holiday_List_Record(std::string_view line) {
   return record;
 }
 
-Holiday_Message Overwrite_Question() {
-  return {"Confirm Overwrite", "A file with this name already exists. Overwrite?"};
+Message Overwrite_Question() {
+  return {"Confirm Overwrite", "A file with this name already exists. Overwrite?", vbYesNo, vbExclamation};
 }
 
-Holiday_Message Invalid_File_Name_Refusal() { return {"Rename", "That file name is invalid."}; }
+Message Invalid_File_Name_Refusal() { return {"Rename", "That file name is invalid.", vbOKOnly, vbCritical}; }
 
 Holiday_List_Writer::Holiday_List_Writer(const std::string& path) {
   if (Names_No_File(path)) return;

@@ -27,8 +27,8 @@ std::string Holiday_List_File_Name(std::string_view name);
 std::string Holiday_List_Record(std::string_view line);
 
 // The questions and refusals of saving a list.
-Holiday_Message Overwrite_Question();       // "Confirm Overwrite", Yes and No
-Holiday_Message Invalid_File_Name_Refusal();  // "Rename": the file cannot be opened for output
+Message Overwrite_Question();         // "Confirm Overwrite", Yes and No
+Message Invalid_File_Name_Refusal();  // "Rename": the file cannot be opened for output
 
 // Writes a list record by record.
 class Holiday_List_Writer {

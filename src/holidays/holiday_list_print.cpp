@@ -11,11 +11,12 @@ constexpr int kColumnX[2] = {1000, 5500};
 
 }  // namespace
 
-Print_Question Holiday_List_Print_Question(std::size_t lines) {
+Message Holiday_List_Print_Question(std::size_t lines) {
   if (lines >= kLongPrintList) {
-    return {"Print Holiday List", "It may take up to two minutes for printing to start. Proceed?", true};
+    return {"Print Holiday List", "It may take up to two minutes for printing to start. Proceed?", vbYesNo, vbQuestion};
   }
-  return {"Print Holiday List", "To print the holiday list click 'OK', otherwise click 'Cancel'.", false};
+  return {"Print Holiday List", "To print the holiday list click 'OK', otherwise click 'Cancel'.", vbOKCancel,
+          vbNoIcon};
 }
 
 Print_Place Holiday_List_Print_Heading_Place() {

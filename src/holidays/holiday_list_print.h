@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string>
 
+#include "core/message.h"
+
 namespace orrivane::holidays {
 
 inline constexpr int kPrintLinesPerColumn = 71;
@@ -11,14 +13,9 @@ inline constexpr std::size_t kPrintLinesPerJob = 2 * kPrintLinesPerColumn;
 // From this many lines on, the question warns that printing may take a while.
 inline constexpr std::size_t kLongPrintList = 170;
 
-struct Print_Question {
-  std::string title;
-  std::string text;
-  bool yes_no = false;  // Yes and No with the question icon; else OK and Cancel
-};
-
-// The question asked before a list of `lines` lines is printed.
-Print_Question Holiday_List_Print_Question(std::size_t lines);
+// The question asked before a list of `lines` lines is printed: Yes and No with the question icon
+// for a long list, else OK and Cancel without an icon.
+Message Holiday_List_Print_Question(std::size_t lines);
 
 struct Print_Place {
   std::size_t job = 0;  // the print job, from 0

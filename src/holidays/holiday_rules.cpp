@@ -145,8 +145,6 @@ const Era& Era_Of_Year(const Holiday_Rule& rule, int year) {
 // The month and weekday facts come from the calendar engine; asking it once keeps the engine the
 // one source of them and keeps a long list from asking millions of times.
 struct Vocabulary {
-  std::array<int, 13> length{};
-  std::array<int, 13> leap_length{};
   std::array<int, 13> base_weekday{};  // weekday of the 1st in the Gregorian year 2000
   std::array<std::string, 13> month_name{};
   std::array<std::string, 8> weekday_name{};
@@ -157,8 +155,6 @@ int Whole(const Value& value) { return value.is_number() ? static_cast<int>(valu
 Vocabulary Ask_The_Calendar_Engine() {
   Vocabulary v;
   for (int m = 1; m <= 12; ++m) {
-    v.length[m] = Whole(engine::Define_Month(m, "Get Max Days"));
-    v.leap_length[m] = Whole(engine::Define_Month(m, "Get Max Days Leap Year"));
     v.month_name[m] = engine::Define_Month(m, "Get Month Name").text();
     v.base_weekday[m] = Whole(engine::Define_Month(v.month_name[m], "Get Base Date Weekday Greg 2000"));
   }
@@ -175,29 +171,24 @@ const Vocabulary& Calendar_Words() {
 // a step past either end of the year stays a month.
 int Month_In_Year(int month) { return static_cast<int>(((static_cast<std::int64_t>(month) - 1) % 12 + 12) % 12 + 1); }
 
-int Month_Length(int month, bool leap) {
-  const Vocabulary& words = Calendar_Words();
-  const int m = Month_In_Year(month);
-  return leap ? words.leap_length[m] : words.length[m];
-}
+int Month_Length(int month, bool leap) { return engine::Days_In_Month(Month_In_Year(month), leap); }
 
 // ---- The month rules ------------------------------------------------------------------------
 
 // The weekday of the 1st of a month, counted from the weekday it had in the year 2000. Where the
 // leap day of 2000 falls against the base date decides between >= and >.
 int Weekday_Of_First(int month, Base_Side side, int year) {
-  using detail::Int_Div;
   const std::int64_t n = 2000 - static_cast<std::int64_t>(year);
   std::int64_t a = 0, b = 0, c = 0;
   if (side == kJanuaryOrFebruary) {
-    a = Int_Div(n, 4);
-    b = Int_Div(n, 100);
-    c = Int_Div(n, 400);
+    a = Floor_Div(n, 4);
+    b = Floor_Div(n, 100);
+    c = Floor_Div(n, 400);
     if (year > 2000) ++b, ++c;
   } else {
-    a = Int_Div(n - 1, 4) + 1;
-    b = Int_Div(n - 1, 100);
-    c = Int_Div(n - 1, 400);
+    a = Floor_Div(n - 1, 4) + 1;
+    b = Floor_Div(n - 1, 100);
+    c = Floor_Div(n - 1, 400);
     if (year >= 2000) ++b, ++c;
   }
   const std::int64_t s = (n + a - b + c) % 7;  // truncating, so -6 to 6
@@ -443,35 +434,37 @@ std::string Holiday_List_Line(int holiday, std::int64_t year, const Holiday_Date
   return List_Line(Holiday_Name(holiday), when, year);
 }
 
-Holiday_Message Holiday_Error_Message(int error_code, std::string_view HolidaySelection) {
-  switch (error_code) {
-    case kNoHolidaySelected:
-      return {"No Holiday Selected", "A holiday must be selected."};
-    case kNoYearEntered:
-      return {"No Year Entered", "A year must be entered in the 'From' box."};
-    case kInvalidYear: {
-      // The name's own comma would read badly in the sentence.
-      const std::string_view name = HolidaySelection == "Election Day, U.S." ? "Election Day" : HolidaySelection;
-      return {"Invalid Year", "For " + std::string(name) + ", the year boxes may\rcontain only numeric values from " +
-                                  Number_Text_Of(First_Year_Of_Holiday(HolidaySelection)) + " to 100100."};
-    }
-    case kNoSelectionsMade:
-      return {"No Selections Made", "Please specify a holiday and valid year."};
-    default:
-      return {};
-  }
+namespace {
+
+// The messages both checks give in the same words; each tells an invalid year in its own.
+const CodedMessage kHolidayMessages[] = {
+    {kNoHolidaySelected, Exclamation_Message("No Holiday Selected", "A holiday must be selected.")},
+    {kNoYearEntered, Exclamation_Message("No Year Entered", "A year must be entered in the 'From' box.")},
+    {kNoSelectionsMade, Exclamation_Message("No Selections Made", "Please specify a holiday and valid year.")},
+};
+
+// "1582 to 100100": the years a holiday may be asked for, from its first year on.
+std::string Years_From(int first_year) {
+  return Number_Text_Of(first_year) + " to " + Number_Text_Of(kHolidayYearLimit);
 }
 
-Holiday_Message All_Holidays_Error_Message(int error_code) {
-  switch (error_code) {
-    case kNoYearEntered:
-      return {"No Year Entered", "A year must be entered in the 'From' box."};
-    case kInvalidYear:
-      return {"Invalid Year", "The year boxes may contain only numeric values\rfrom " +
-                                  Number_Text_Of(kEarliestHolidayYear) + " to 100100."};
-    default:
-      return {};
+}  // namespace
+
+Message Holiday_Error_Message(int error_code, std::string_view HolidaySelection) {
+  if (error_code != kInvalidYear) return Message_Of(kHolidayMessages, error_code);
+  // The name's own comma would read badly in the sentence.
+  const std::string_view name = HolidaySelection == "Election Day, U.S." ? "Election Day" : HolidaySelection;
+  return Exclamation_Message("Invalid Year", "For " + std::string(name) +
+                                                 ", the year boxes may\rcontain only numeric values from " +
+                                                 Years_From(First_Year_Of_Holiday(HolidaySelection)) + ".");
+}
+
+Message All_Holidays_Error_Message(int error_code) {
+  if (error_code == kInvalidYear) {
+    return Exclamation_Message("Invalid Year", "The year boxes may contain only numeric values\rfrom " +
+                                                   Years_From(kEarliestHolidayYear) + ".");
   }
+  return error_code == kNoYearEntered ? Message_Of(kHolidayMessages, error_code) : Message{};
 }
 
 Holiday_Answer Display_Holiday_II(std::string_view HolidaySelection, const Value& FromYear, Value& ToYear,

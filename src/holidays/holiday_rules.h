@@ -16,14 +16,18 @@
 #include <string_view>
 #include <vector>
 
+#include "core/message.h"
 #include "core/value.h"
+#include "core/whole_numbers.h"
+#include "engine/month_steps.h"
 
 namespace orrivane::holidays {
 
 inline constexpr int kHolidayYearLimit = 100100;
-// The first year of a name the rule table does not know, and the lower bound of every year in
-// "Display All By Year" mode.
-inline constexpr int kEarliestHolidayYear = 1582;
+// The first year of the Gregorian calendar, the only one holidays are worked out for: the first
+// year of a name the rule table does not know, and the lower bound of every year in "Display All
+// By Year" mode.
+inline constexpr int kEarliestHolidayYear = engine::kFirstGregorianYear;
 inline constexpr int kHolidayCount = 25;
 
 // The caller identities that select a customer of the engine; any other text selects nobody.
@@ -38,25 +42,16 @@ struct Month_And_Date {
   friend bool operator==(const Month_And_Date&, const Month_And_Date&) = default;
 };
 
-namespace detail {
-// Int() of the program: rounds down, also for negative dividends (divisor positive).
-constexpr std::int64_t Int_Div(std::int64_t a, std::int64_t b) noexcept {
-  const std::int64_t q = a / b;
-  return (a % b != 0 && a < 0) ? q - 1 : q;
-}
-}  // namespace detail
-
 // The program's Easter rule for a whole year. Every 32-bit year is safe: the widest
 // intermediate, 5 × Year, stays far inside 64 bits.
 constexpr Month_And_Date Easter_Month_And_Date(std::int32_t year) noexcept {
-  using detail::Int_Div;
   const std::int64_t y = year;
   const std::int64_t g = y % 19 + 1;  // truncating: G may be 0 or negative before the year 0
-  const std::int64_t c = Int_Div(y, 100) + 1;
-  const std::int64_t x = Int_Div(3 * c, 4) - 12;
+  const std::int64_t c = Floor_Div(y, 100) + 1;
+  const std::int64_t x = Floor_Div(3 * c, 4) - 12;
   // No 5 inside this division: the program's dates part from the published ones from 2706 on.
-  const std::int64_t z = Int_Div(8 * c, 25) - 5;
-  const std::int64_t d = Int_Div(5 * y, 4) - x - 10;
+  const std::int64_t z = Floor_Div(8 * c, 25) - 5;
+  const std::int64_t d = Floor_Div(5 * y, 4) - x - 10;
   // The truncating remainder is kept even where the dividend turns negative (from 8911 on);
   // that is what lets April run past 30 later.
   std::int64_t e = (11 * g + 20 + z - x) % 30;
@@ -134,22 +129,17 @@ class Holiday_Table_Collector : public Holiday_Receiver {
 // The validation codes of the engine (E) and of the "Display All By Year" check.
 enum Holiday_Error_Code : int {
   kHolidayNoError = 0,
-  kNoHolidaySelected = 1,
-  kNoYearEntered = 2,
-  kInvalidYear = 3,
-  kNoSelectionsMade = 6,
+  kNoHolidaySelected = 1,  // no holiday chosen
+  kNoYearEntered = 2,      // the first year box is blank
+  kInvalidYear = 3,        // a year box holds no whole year from the holiday's first year to 100100
+  kNoSelectionsMade = 6,   // more than one of the above (the engine's check only)
 };
 
-struct Holiday_Message {
-  std::string title;
-  std::string text;  // a line break is the character 13
-};
-
-// The message of a code of Display_Holiday_II, for the holiday the user chose; empty texts for
-// a code without a message.
-Holiday_Message Holiday_Error_Message(int error_code, std::string_view HolidaySelection);
+// The message of a code of Display_Holiday_II, for the holiday the user chose; the empty message
+// for a code without one. A line break in a text is the character 13.
+Message Holiday_Error_Message(int error_code, std::string_view HolidaySelection);
 // The message of a code of Check_Years_For_All_Holidays.
-Holiday_Message All_Holidays_Error_Message(int error_code);
+Message All_Holidays_Error_Message(int error_code);
 
 // The find-a-holiday window's controls that the engine looks at.
 struct Holiday_Window_Options {

@@ -7,13 +7,15 @@
 #include <string>
 #include <utility>
 
+#include "core/colours.h"
+
 namespace orrivane::controls {
 
-// The program's colour numbers: 0xBBGGRR, or a system colour.
-constexpr unsigned kButtonFace = 0x8000000F;
-constexpr unsigned kGrayText = 0x80000011;
-constexpr unsigned kButtonText = 0x80000012;
-constexpr unsigned kRed = 255;
+// The program's colour numbers (core/colours.h).
+using colours::kButtonFace;
+using colours::kButtonText;
+using colours::kGrayText;
+using colours::kRed;
 
 // The colour a program colour number stands for, system colours through the palette.
 QColor To_QColor(unsigned colour);

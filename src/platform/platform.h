@@ -6,15 +6,17 @@
 #include <string>
 #include <vector>
 
+#include "core/message.h"
+
 class QImage;
 class QWidget;
 
 namespace orrivane::platform {
 
 // Button sets, icons and answers of a message box, numbered as the program numbers them.
-enum Buttons : int { vbOKOnly = 0, vbOKCancel = 1, vbYesNoCancel = 3, vbYesNo = 4 };
-enum Icon : int { vbNoIcon = 0, vbCritical = 16, vbQuestion = 32, vbExclamation = 48, vbInformation = 64 };
-enum Answer : int { vbOK = 1, vbCancel = 2, vbYes = 6, vbNo = 7 };
+using enum MessageButtons;
+using enum MessageIcon;
+using enum MessageAnswer;
 
 // A text printed at a position on the page, measured in twips (1440 to the inch) from the
 // page's top left corner.

@@ -6,6 +6,7 @@
 #include "holidays/frmFindAHoliday.h"
 #include "holidays/holiday_list_file.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
 #include "shell/file_names.h"
@@ -13,8 +14,6 @@
 namespace orrivane {
 
 namespace {
-
-using platform::Machine;
 
 // The callers this window serves, by the exact name each writes in lblStoreCallingProcedure.
 // The log's caller has its place here; writing a log (Save_Schedule) comes with the Organizer,
@@ -31,10 +30,6 @@ constexpr Caller kCallers[] = {
 using controls::Make_Label;
 
 using controls::Make_Button;
-
-void Show_Message(const std::string& title, const std::string& text, int buttons, int icon) {
-  Machine().Message_Box(text, buttons, icon, title);
-}
 
 }  // namespace
 
@@ -91,10 +86,7 @@ int frmSaveFile::File_Name_Validity_Check(const std::string& FileName) const {
   return shell::File_Name_Validity_Check(FileName);
 }
 
-void frmSaveFile::Refuse_File_Name() const {
-  const shell::File_Name_Message message = shell::Invalid_File_Name_Message();
-  Show_Message(message.title, message.text, platform::vbOKOnly, platform::vbCritical);
-}
+void frmSaveFile::Refuse_File_Name() const { platform::Show_Message(shell::Invalid_File_Name_Message()); }
 
 void frmSaveFile::Save_Holiday_List() {
   const frmFindAHoliday& find = Window<frmFindAHoliday>();
@@ -107,16 +99,11 @@ void frmSaveFile::Save_Holiday_List() {
   const std::string path =
       Join_Path(QFile::encodeName(DirSaveIn->Path()).toStdString(), holidays::Holiday_List_File_Name(name));
   if (File_Exists(path)) {
-    const holidays::Holiday_Message question = holidays::Overwrite_Question();
-    if (Machine().Message_Box(question.text, platform::vbYesNo, platform::vbExclamation, question.title) !=
-        platform::vbYes) {
-      return;
-    }
+    if (platform::Show_Message(holidays::Overwrite_Question()) != platform::vbYes) return;
   }
   holidays::Holiday_List_Writer writer(path);
   if (!writer.Is_Open()) {
-    const holidays::Holiday_Message refusal = holidays::Invalid_File_Name_Refusal();
-    Show_Message(refusal.title, refusal.text, platform::vbOKOnly, platform::vbCritical);
+    platform::Show_Message(holidays::Invalid_File_Name_Refusal());
     return;
   }
   for (std::size_t i = 0; i < count; ++i) writer.Write_Record(find.List_Line(i));

@@ -30,12 +30,12 @@ TEST(MonthGrid, GoingBackAMonthSkipsWholeWeeks) {
 TEST(MonthGrid, SideCalendarsHideTheDaysOfOtherMonthsInTheBackgroundColour) {
   const Grid side = Fill_Side_Calendar(3, 30, 31);
   EXPECT_EQ(side[2].caption, "31");
-  EXPECT_EQ(side[2].colour, kButtonFace);
+  EXPECT_EQ(side[2].colour, colours::kButtonFace);
   EXPECT_EQ(side[3].caption, "1");
-  EXPECT_EQ(side[3].colour, engine::kButtonTextColour);
+  EXPECT_EQ(side[3].colour, colours::kButtonText);
   EXPECT_EQ(side[32].caption, "30");
   EXPECT_EQ(side[33].caption, "1");
-  EXPECT_EQ(side[33].colour, kButtonFace);
+  EXPECT_EQ(side[33].colour, colours::kButtonFace);
   for (const auto& cell : side) EXPECT_FALSE(cell.caption.empty());
 }
 

@@ -44,9 +44,8 @@ TEST(SelectMonthCheck, GivesTheStatusOfEachFaultAndSixForSeveral) {
 }
 
 TEST(SelectMonthCheck, MessagesOfTheStatuses) {
-  using engine::EngineMessage;
   auto message = [](int status) {
-    const EngineMessage shown = Select_Month_Entry_Message(status);
+    const Message shown = Select_Month_Entry_Message(status);
     return shown.title + "|" + shown.text;
   };
   EXPECT_EQ(message(1), "No Month Selected|A month must be selected.");

@@ -24,7 +24,7 @@ Time_Selection Chosen(const std::string& month, const std::string& date, const s
 
 const Time_Selection kGood = Chosen("June", "15", "20", "01");
 
-Time_Length_Message Message(int code) {
+Message Message_For(int code) {
   Selection_Check check;
   check.Code = code;
   return Find_Time_Length_Message(check);
@@ -85,33 +85,33 @@ TEST(Time_Selection, AChosenCenturyOrHourMakesTheBlankBelowItZero) {
 TEST(Time_Selection, AMonthWithoutADateOnOneSideIsCodeOneOrTwo) {
   EXPECT_EQ(Code(Chosen("June", "", "20", "01"), kGood), 1);
   EXPECT_EQ(Code(kGood, Chosen("June", "", "20", "01")), 2);
-  EXPECT_EQ(Message(1).Title, "No Date Selected");
-  EXPECT_EQ(Message(1).Text, "'Time 1' month selected without a corresponding date.");
-  EXPECT_EQ(Message(2).Text, "'Time 2' month selected without a corresponding date.");
+  EXPECT_EQ(Message_For(1).title, "No Date Selected");
+  EXPECT_EQ(Message_For(1).text, "'Time 1' month selected without a corresponding date.");
+  EXPECT_EQ(Message_For(2).text, "'Time 2' month selected without a corresponding date.");
 }
 
 TEST(Time_Selection, MonthsWithoutDatesOnBothSidesAreCodeSeven) {
   EXPECT_EQ(Code(Chosen("June", "", "20", "01"), Chosen("May", "", "20", "01")), 7);
-  EXPECT_EQ(Message(7).Title, "No Dates Selected");
-  EXPECT_EQ(Message(7).Text, "When a month is selected, a date must also be selected.");
+  EXPECT_EQ(Message_For(7).title, "No Dates Selected");
+  EXPECT_EQ(Message_For(7).text, "When a month is selected, a date must also be selected.");
 }
 
 TEST(Time_Selection, FebruaryThirtiethOnTheFirstSideNamesTheYear) {
   const Selection_Check check = Check_Time_Selections(Chosen("February", "30", "20", "01"), kGood, "Gregorian");
   EXPECT_EQ(check.Code, 8);
-  const Time_Length_Message message = Find_Time_Length_Message(check);
-  EXPECT_EQ(message.Title, "Invalid Date");
-  EXPECT_EQ(message.Text, "February only has 28 days in it for the year you selected for 'Time 1'.");
+  const Message message = Find_Time_Length_Message(check);
+  EXPECT_EQ(message.title, "Invalid Date");
+  EXPECT_EQ(message.text, "February only has 28 days in it for the year you selected for 'Time 1'.");
   const Selection_Check leap = Check_Time_Selections(kGood, Chosen("February", "30", "20", "00"), "Gregorian");
-  EXPECT_EQ(Find_Time_Length_Message(leap).Text,
+  EXPECT_EQ(Find_Time_Length_Message(leap).text,
             "February only has 29 days in it for the year you selected for 'Time 2'.");
 }
 
 TEST(Time_Selection, AprilThirtyFirstOnTheSecondSideIsCodeNine) {
   const Selection_Check check = Check_Time_Selections(kGood, Chosen("April", "31", "20", "01"), "Gregorian");
   EXPECT_EQ(check.Code, 9);
-  EXPECT_EQ(Find_Time_Length_Message(check).Title, "Invalid Date");
-  EXPECT_EQ(Find_Time_Length_Message(check).Text, "April only has 30 days in it.");
+  EXPECT_EQ(Find_Time_Length_Message(check).title, "Invalid Date");
+  EXPECT_EQ(Find_Time_Length_Message(check).text, "April only has 30 days in it.");
 }
 
 TEST(Time_Selection, TwoBadCenturiesAreCodeFourteen) {
@@ -119,11 +119,11 @@ TEST(Time_Selection, TwoBadCenturiesAreCodeFourteen) {
   EXPECT_EQ(Code(Chosen("June", "15", "2x", "01"), kGood), 10);
   EXPECT_EQ(Code(kGood, Chosen("June", "15", "-1", "01")), 11);
   EXPECT_EQ(Code(Chosen("June", "31", "20", "01"), Chosen("June", "15", "10001", "01")), 14);
-  EXPECT_EQ(Message(14).Title, "Invalid Selections Detected");
-  EXPECT_EQ(Message(14).Text, "Please check that all date and time entries are valid.");
-  EXPECT_EQ(Message(10).Title, "Invalid Year");
-  EXPECT_EQ(Message(10).Text, "The year field for 'Time 1' contains non-numeric characters");
-  EXPECT_EQ(Message(11).Text, "The year field for 'Time 2' contains non-numeric characters");
+  EXPECT_EQ(Message_For(14).title, "Invalid Selections Detected");
+  EXPECT_EQ(Message_For(14).text, "Please check that all date and time entries are valid.");
+  EXPECT_EQ(Message_For(10).title, "Invalid Year");
+  EXPECT_EQ(Message_For(10).text, "The year field for 'Time 1' contains non-numeric characters");
+  EXPECT_EQ(Message_For(11).text, "The year field for 'Time 2' contains non-numeric characters");
 }
 
 TEST(Time_Selection, OctoberFourteenth1582IsTooEarlyOnlyInTheGregorianStyle) {
@@ -133,11 +133,11 @@ TEST(Time_Selection, OctoberFourteenth1582IsTooEarlyOnlyInTheGregorianStyle) {
   EXPECT_EQ(Code(Chosen("October", "15", "15", "82"), kGood, "Gregorian"), 0);
   EXPECT_EQ(Code(kGood, Chosen("September", "30", "15", "82"), "Gregorian"), 16);
   EXPECT_EQ(Code(Chosen("May", "1", "0", "00"), Chosen("December", "31", "15", "81"), "Gregorian"), 17);
-  EXPECT_EQ(Message(15).Title, "Invalid Gregorian Date");
-  EXPECT_EQ(Message(15).Text, "Please be sure the date for 'Time 1' falls on or after October 15, 1582");
-  EXPECT_EQ(Message(16).Text, "Please be sure the date for 'Time 2' falls on or after October 15, 1582");
-  EXPECT_EQ(Message(17).Title, "Invalid Dates");
-  EXPECT_EQ(Message(17).Text, "Gregorian dates cannot be before October 15, 1582");
+  EXPECT_EQ(Message_For(15).title, "Invalid Gregorian Date");
+  EXPECT_EQ(Message_For(15).text, "Please be sure the date for 'Time 1' falls on or after October 15, 1582");
+  EXPECT_EQ(Message_For(16).text, "Please be sure the date for 'Time 2' falls on or after October 15, 1582");
+  EXPECT_EQ(Message_For(17).title, "Invalid Dates");
+  EXPECT_EQ(Message_For(17).text, "Gregorian dates cannot be before October 15, 1582");
 }
 
 TEST(Time_Selection, CenturyTenThousandIsTheLast) {
@@ -145,8 +145,8 @@ TEST(Time_Selection, CenturyTenThousandIsTheLast) {
   EXPECT_EQ(Code(kGood, Chosen("June", "15", "10001", "01")), 13);
   EXPECT_EQ(Code(Chosen("December", "31", "10000", "99"), kGood), 0);
   EXPECT_EQ(Code(Chosen("June", "15", "99999999999999999999999", "01"), kGood), 12);
-  EXPECT_EQ(Message(12).Text, "Please make sure the year value for 'Time 1' is a value from 0 to 10000");
-  EXPECT_EQ(Message(13).Text, "Please make sure the year value for 'Time 2' is a value from 0 to 10000");
+  EXPECT_EQ(Message_For(12).text, "Please make sure the year value for 'Time 1' is a value from 0 to 10000");
+  EXPECT_EQ(Message_For(13).text, "Please make sure the year value for 'Time 2' is a value from 0 to 10000");
 }
 
 TEST(Time_Selection, MissingDatesComeBeforeBadNumbersAndThoseBeforeEarlyDates) {
@@ -164,8 +164,8 @@ TEST(Time_Selection, ANonNumericYearInCenturyFailsWhenUsed) {
 }
 
 TEST(Time_Selection, CodeZeroAndUnknownCodesHaveNoMessage) {
-  EXPECT_EQ(Message(0).Title, "");
-  EXPECT_EQ(Message(3).Text, "");
+  EXPECT_EQ(Message_For(0).title, "");
+  EXPECT_EQ(Message_For(3).text, "");
   EXPECT_EQ(Check_Time_Selections(kGood, kGood, "Gregorian").Month_Name, "");
 }
 

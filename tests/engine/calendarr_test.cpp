@@ -130,7 +130,11 @@ TEST(CalendarrMessage, EachCodeHasItsTitleAndText) {
   EXPECT_EQ(Calendarr_Message(1, date).text, kGregorianStartText);
   EXPECT_EQ(Calendarr_Message(2, date).text, "February of 2024 only has 28 days in it.");
   EXPECT_EQ(Calendarr_Message(3, date).text, "April does not have 31 days in it!");
-  for (int code = 1; code <= 3; ++code) EXPECT_EQ(Calendarr_Message(code, date).title, "Invalid Date");
+  for (int code = 1; code <= 3; ++code) {
+    EXPECT_EQ(Calendarr_Message(code, date).title, "Invalid Date");
+    EXPECT_EQ(Calendarr_Message(code, date).buttons, vbOKOnly);
+    EXPECT_EQ(Calendarr_Message(code, date).icon, vbExclamation);
+  }
   EXPECT_TRUE(Calendarr_Message(0, date).empty());
   EXPECT_TRUE(Calendarr_Message(4, date).empty());
   EXPECT_STREQ(kCarriageReturn, "\r");
@@ -162,9 +166,9 @@ std::string Captions(const MonthGrid& grid, int from, int to) {
 }
 
 TEST(CalendarrGrid, ColoursAreTheTwoSystemColoursAndRed) {
-  EXPECT_EQ(kGreyTextColour, 0x80000011u);
-  EXPECT_EQ(kButtonTextColour, 0x80000012u);
-  EXPECT_EQ(kRedColour, 255u);
+  EXPECT_EQ(colours::kGrayText, 0x80000011u);
+  EXPECT_EQ(colours::kButtonText, 0x80000012u);
+  EXPECT_EQ(colours::kRed, 255u);
 }
 
 TEST(CalendarrGrid, TwentyEightDayMonthStartingOnSundayFillsFourRowsAndTwoGreyRows) {
@@ -173,11 +177,11 @@ TEST(CalendarrGrid, TwentyEightDayMonthStartingOnSundayFillsFourRowsAndTwoGreyRo
   ASSERT_TRUE(grid.has_value());
   for (int cell = 0; cell <= 27; ++cell) {
     EXPECT_EQ((*grid)[cell].caption, std::to_string(cell + 1));
-    EXPECT_EQ((*grid)[cell].colour, cell == 9 ? kRedColour : kButtonTextColour);
+    EXPECT_EQ((*grid)[cell].colour, cell == 9 ? colours::kRed : colours::kButtonText);
   }
   for (int cell = 28; cell <= 41; ++cell) {
     EXPECT_EQ((*grid)[cell].caption, std::to_string(cell - 27));
-    EXPECT_EQ((*grid)[cell].colour, kGreyTextColour);
+    EXPECT_EQ((*grid)[cell].colour, colours::kGrayText);
   }
 }
 
@@ -186,15 +190,15 @@ TEST(CalendarrGrid, ThirtyOneDayMonthStartingOnSaturdayLeavesFiveGreyCells) {
   const auto grid = Calendarr_Month_Grid(Date("January", 1, 2000, kGregorian));
   ASSERT_TRUE(grid.has_value());
   EXPECT_EQ(Captions(*grid, 0, 5), "26 27 28 29 30 31 ");
-  for (int cell = 0; cell <= 5; ++cell) EXPECT_EQ((*grid)[cell].colour, kGreyTextColour);
+  for (int cell = 0; cell <= 5; ++cell) EXPECT_EQ((*grid)[cell].colour, colours::kGrayText);
   EXPECT_EQ((*grid)[6].caption, "1");
-  EXPECT_EQ((*grid)[6].colour, kRedColour);
+  EXPECT_EQ((*grid)[6].colour, colours::kRed);
   for (int cell = 7; cell <= 36; ++cell) {
     EXPECT_EQ((*grid)[cell].caption, std::to_string(cell - 5));
-    EXPECT_EQ((*grid)[cell].colour, kButtonTextColour);
+    EXPECT_EQ((*grid)[cell].colour, colours::kButtonText);
   }
   EXPECT_EQ(Captions(*grid, 37, 41), "1 2 3 4 5 ");
-  for (int cell = 37; cell <= 41; ++cell) EXPECT_EQ((*grid)[cell].colour, kGreyTextColour);
+  for (int cell = 37; cell <= 41; ++cell) EXPECT_EQ((*grid)[cell].colour, colours::kGrayText);
 }
 
 TEST(CalendarrGrid, MarchAfterACommonFebruaryShowsTwentyEightAsTheLastDayBefore) {
@@ -215,9 +219,9 @@ TEST(CalendarrGrid, FebruaryOfALeapYearHasTwentyNineDays) {
   // 1 February 2024 was a Thursday: cell 4; the 29th in cell 32, red; 1 March in cell 33.
   EXPECT_EQ((*grid)[4].caption, "1");
   EXPECT_EQ((*grid)[32].caption, "29");
-  EXPECT_EQ((*grid)[32].colour, kRedColour);
+  EXPECT_EQ((*grid)[32].colour, colours::kRed);
   EXPECT_EQ((*grid)[33].caption, "1");
-  EXPECT_EQ((*grid)[33].colour, kGreyTextColour);
+  EXPECT_EQ((*grid)[33].colour, colours::kGrayText);
 }
 
 TEST(CalendarrGrid, OctoberOf1582RunsThirtyOneDaysUnbroken) {
@@ -225,7 +229,7 @@ TEST(CalendarrGrid, OctoberOf1582RunsThirtyOneDaysUnbroken) {
   ASSERT_TRUE(grid.has_value());
   EXPECT_EQ((*grid)[5].caption, "1");  // 1 October 1582 in its proleptic place, a Friday
   for (int d = 1; d <= 31; ++d) EXPECT_EQ((*grid)[4 + d].caption, std::to_string(d));
-  EXPECT_EQ((*grid)[19].colour, kRedColour);
+  EXPECT_EQ((*grid)[19].colour, colours::kRed);
 }
 
 TEST(CalendarrGrid, AnInvalidDateDrawsNothing) {
@@ -237,11 +241,11 @@ TEST(CalendarrGrid, AnInvalidDateDrawsNothing) {
 TEST(DrawMonthCells, GreyBeforeOwnDaysThenGreyAfter) {
   const MonthGrid grid = Draw_Month_Cells(4, 30, 31, 0);
   EXPECT_EQ(Captions(grid, 0, 3), "29 30 31 1 ");
-  EXPECT_EQ(grid[2].colour, kGreyTextColour);
-  EXPECT_EQ(grid[3].colour, kButtonTextColour);
+  EXPECT_EQ(grid[2].colour, colours::kGrayText);
+  EXPECT_EQ(grid[3].colour, colours::kButtonText);
   EXPECT_EQ(grid[32].caption, "30");
   EXPECT_EQ(Captions(grid, 33, 41), "1 2 3 4 5 6 7 8 9 ");
-  for (const CalendarCell& cell : grid) EXPECT_NE(cell.colour, kRedColour);
+  for (const CalendarCell& cell : grid) EXPECT_NE(cell.colour, colours::kRed);
 }
 
 TEST(DrawMonthCells, AFirstColumnOutsideTheWeekIsASubscriptFailure) {
@@ -334,6 +338,10 @@ TEST(FieldCheck, WithTwoErrorsTheStatusIsTheLastOneSet) {
 TEST(FieldCheck, TheUnreachedStatusSevenStandsInTheTable) {
   EXPECT_EQ(Field_Validation_Message(7).text, "The Century field must contain only numbers.");
   EXPECT_TRUE(Field_Validation_Message(0).empty());
+  for (int status : {1, 2, 3, 4, 5, 6, 7, kGeneralFieldStatus}) {
+    EXPECT_EQ(Field_Validation_Message(status).buttons, vbOKOnly) << status;
+    EXPECT_EQ(Field_Validation_Message(status).icon, vbExclamation) << status;
+  }
   EXPECT_TRUE(Field_Validation_Message(8).empty());
 }
 

@@ -221,6 +221,8 @@ TEST(ConvertMessage, CodeOneTellsTheSourceStyle) {
   EXPECT_EQ(Convert_Message(2, {"February", 29, 2023, kJulian}).text, "February of 2023 only has 28 days in it.");
   EXPECT_EQ(Convert_Message(3, {"June", 31, 2023, kJulian}).text, "June does not have 31 days in it!");
   EXPECT_TRUE(Convert_Message(0, {"June", 1, 2023, kJulian}).empty());
+  EXPECT_EQ(Convert_Message(1, {"May", 1, 1000, kJulian}).icon, vbExclamation);
+  EXPECT_EQ(Convert_Message(1, {"May", 1, 1000, kJulian}).buttons, vbOKOnly);
 }
 
 TEST(CalendarStyleTexts, NamesLabelsAndTheFormsAccepted) {

@@ -51,12 +51,12 @@ void Check_Grid(const MonthGrid& grid, std::int64_t year, int month, CalendarSty
   for (int cell = 0; cell < kGridCells; ++cell) {
     const CalendarCell& c = grid[cell];
     int caption = 0;
-    std::uint32_t colour = kGreyTextColour;
+    std::uint32_t colour = colours::kGrayText;
     if (cell < first) {
       caption = length_before - first + 1 + cell;
     } else if (cell < next) {
       caption = cell - first + 1;
-      colour = caption == selected ? kRedColour : kButtonTextColour;
+      colour = caption == selected ? colours::kRed : colours::kButtonText;
     } else {
       caption = cell - next + 1;
     }
@@ -64,7 +64,7 @@ void Check_Grid(const MonthGrid& grid, std::int64_t year, int month, CalendarSty
       ASSERT_EQ(c.caption, std::to_string(caption)) << "cell " << cell << ", " << Month_Name(month) << " " << year;
       ASSERT_EQ(c.colour, colour) << "cell " << cell << ", " << Month_Name(month) << " " << year;
     }
-    if (c.colour == kRedColour) ++red;
+    if (c.colour == colours::kRed) ++red;
   }
   ASSERT_EQ(red, selected == 0 ? 0 : 1);
 }

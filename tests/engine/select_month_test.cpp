@@ -121,10 +121,10 @@ TEST(SelectMonthFirstWeekday, AgreesWithCalendarr) {
 TEST(SelectMonthGrid, October1582HasThirtyOneDaysInARowWithTheFirstInCellFive) {
   const MonthGrid grid = Select_Month_Grid(Value("October"), 1582, CalendarStyle::Gregorian);
   EXPECT_EQ(grid[4].caption, "30");
-  EXPECT_EQ(grid[4].colour, kGreyTextColour);
+  EXPECT_EQ(grid[4].colour, colours::kGrayText);
   for (int day = 1; day <= 31; ++day) {
     EXPECT_EQ(grid[4 + day].caption, std::to_string(day));
-    EXPECT_EQ(grid[4 + day].colour, kButtonTextColour);
+    EXPECT_EQ(grid[4 + day].colour, colours::kButtonText);
   }
   EXPECT_EQ(grid[36].caption, "1");
 }

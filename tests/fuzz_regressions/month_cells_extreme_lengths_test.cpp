@@ -17,7 +17,7 @@ TEST(FuzzRegression, TheLastDaysOfAMonthBeforeOfTheSmallestLengthAreCountedIn64B
   EXPECT_EQ(grid[0].caption, "-2147483653");
   EXPECT_EQ(grid[5].caption, "-2147483648");
   EXPECT_EQ(grid[6].caption, "1");
-  EXPECT_EQ(grid[0].colour, engine::kGreyTextColour);
+  EXPECT_EQ(grid[0].colour, colours::kGrayText);
 }
 
 }  // namespace

@@ -7,14 +7,16 @@ namespace orrivane::holidays {
 namespace {
 
 TEST(HolidayListPrint, ALongListIsAskedWithYesAndNo) {
-  const Print_Question short_list = Holiday_List_Print_Question(169);
+  const Message short_list = Holiday_List_Print_Question(169);
   EXPECT_EQ(short_list.title, "Print Holiday List");
   EXPECT_EQ(short_list.text, "To print the holiday list click 'OK', otherwise click 'Cancel'.");
-  EXPECT_FALSE(short_list.yes_no);
-  const Print_Question long_list = Holiday_List_Print_Question(170);
+  EXPECT_EQ(short_list.buttons, vbOKCancel);
+  EXPECT_EQ(short_list.icon, vbNoIcon);
+  const Message long_list = Holiday_List_Print_Question(170);
   EXPECT_EQ(long_list.title, "Print Holiday List");
   EXPECT_EQ(long_list.text, "It may take up to two minutes for printing to start. Proceed?");
-  EXPECT_TRUE(long_list.yes_no);
+  EXPECT_EQ(long_list.buttons, vbYesNo);
+  EXPECT_EQ(long_list.icon, vbQuestion);
 }
 
 TEST(HolidayListPrint, TheHeading) {

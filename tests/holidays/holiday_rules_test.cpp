@@ -181,10 +181,12 @@ TEST(HolidayRules, NewYearsDayOf1582IsRefusedWithFirstYear1583InTheMessage) {
   EXPECT_EQ(run.answer.error_code, kInvalidYear);
   EXPECT_TRUE(run.answer.message_wanted);
   EXPECT_TRUE(run.lines.empty());
-  const Holiday_Message message = Holiday_Error_Message(run.answer.error_code, "New Years Day");
+  const Message message = Holiday_Error_Message(run.answer.error_code, "New Years Day");
   EXPECT_EQ(message.title, "Invalid Year");
   EXPECT_EQ(message.text,
             "For New Years Day, the year boxes may\rcontain only numeric values from 1583 to 100100.");
+  EXPECT_EQ(message.buttons, vbOKOnly);
+  EXPECT_EQ(message.icon, vbExclamation);
 }
 
 TEST(HolidayRules, OnlyTheLastThreeMonthsOf1582HaveHolidays) {
@@ -271,7 +273,7 @@ TEST(HolidayRules, AnEmptyNameWithAnEmptyYearAsksForAHolidayAndAValidYear) {
   const Window_Run run = By_Holiday("", "");
   EXPECT_EQ(run.answer.error_code, kNoSelectionsMade);
   EXPECT_TRUE(run.answer.message_wanted);
-  const Holiday_Message message = Holiday_Error_Message(run.answer.error_code, "");
+  const Message message = Holiday_Error_Message(run.answer.error_code, "");
   EXPECT_EQ(message.title, "No Selections Made");
   EXPECT_EQ(message.text, "Please specify a holiday and valid year.");
 }
@@ -313,7 +315,7 @@ TEST(HolidayLimit, FarYearsAreRefusedWithoutHarm) {
 TEST(HolidayValidation, AnEmptyNameAloneIsNoHolidaySelected) {
   const Window_Run run = By_Holiday("", 2003);
   EXPECT_EQ(run.answer.error_code, kNoHolidaySelected);
-  const Holiday_Message message = Holiday_Error_Message(run.answer.error_code, "");
+  const Message message = Holiday_Error_Message(run.answer.error_code, "");
   EXPECT_EQ(message.title, "No Holiday Selected");
   EXPECT_EQ(message.text, "A holiday must be selected.");
 }
@@ -322,7 +324,7 @@ TEST(HolidayValidation, AnEmptyFromYearIsNoYearEntered) {
   for (const Value& empty : {Value(), Value("")}) {
     const Window_Run run = By_Holiday("Easter", empty, 2003, true);
     EXPECT_EQ(run.answer.error_code, kNoYearEntered);
-    const Holiday_Message message = Holiday_Error_Message(run.answer.error_code, "Easter");
+    const Message message = Holiday_Error_Message(run.answer.error_code, "Easter");
     EXPECT_EQ(message.title, "No Year Entered");
     EXPECT_EQ(message.text, "A year must be entered in the 'From' box.");
   }
@@ -517,9 +519,12 @@ TEST(AllHolidaysByYear, TheYearCheckHasTheOneLowerBound1582) {
 
 TEST(AllHolidaysByYear, AnEmptyFirstYearIsNoYearEntered) {
   EXPECT_EQ(Check_Years_For_All_Holidays("", 2003, true).error_code, kNoYearEntered);
-  const Holiday_Message message = All_Holidays_Error_Message(kNoYearEntered);
+  const Message message = All_Holidays_Error_Message(kNoYearEntered);
   EXPECT_EQ(message.title, "No Year Entered");
   EXPECT_EQ(message.text, "A year must be entered in the 'From' box.");
+  EXPECT_EQ(message.icon, vbExclamation);
+  EXPECT_TRUE(All_Holidays_Error_Message(kNoHolidaySelected).empty());
+  EXPECT_TRUE(All_Holidays_Error_Message(kNoSelectionsMade).empty());
 }
 
 TEST(AllHolidaysByYear, AYearBoxThatHoldsNoNumberIsAnInvalidYear) {

@@ -24,8 +24,10 @@ TEST(FileNames, OtherNamesPass) {
 TEST(FileNames, ANameOfBlanksPassesTheCheck) { EXPECT_EQ(File_Name_Validity_Check("    "), 1); }
 
 TEST(FileNames, TheMessageListsEightCharactersLeavingOutTheQuestionMark) {
-  const File_Name_Message message = Invalid_File_Name_Message();
+  const Message message = Invalid_File_Name_Message();
   EXPECT_EQ(message.title, "Rename");
+  EXPECT_EQ(message.buttons, vbOKOnly);
+  EXPECT_EQ(message.icon, vbCritical);
   EXPECT_EQ(message.text, "A file name cannot contain any of the following characters:\r\\/:*\"<>|");
   EXPECT_EQ(message.text.find('?'), std::string::npos);
   EXPECT_EQ(message.text.substr(message.text.find('\r') + 1).size(), 8u);

@@ -1,0 +1,13 @@
+#pragma once
+// The program's colour numbers: 0xBBGGRR (blue in the high byte), or a system colour, which the
+// windows map to the palette of the machine.
+#include <cstdint>
+
+namespace orrivane::colours {
+
+inline constexpr std::uint32_t kButtonFace = 0x8000000F;  // system colour: the face of a button
+inline constexpr std::uint32_t kGrayText = 0x80000011;    // system colour: grey (disabled) text
+inline constexpr std::uint32_t kButtonText = 0x80000012;  // system colour: the text of a button
+inline constexpr std::uint32_t kRed = 255;
+
+}  // namespace orrivane::colours
