@@ -215,7 +215,7 @@ constexpr Topic kTopics[] = {
      "Click \"<< Earlier\" or \"Later >>\" to go one period back or on ('Ctrl' + 'P' and 'Ctrl' + 'L'), or "
      "select a time period and a date to go straight there ('Ctrl' + 'T')."},
     {"Viewing A Specific Task",
-     "Every task has a Task\\Event Information window, which you can open in several ways:\n"
+     "The Task\\Event Information window shows one task. You can open it on a task in several ways:\n"
      "\n"
      "Double-click the task in a group member's task list in the Organizer, or click its cell on the task "
      "chart.\n"
@@ -244,7 +244,7 @@ constexpr Topic kTopics[] = {
      "Converted Date On Calendar\" and click OK.\n"
      "\n"
      "You can also convert a date in the Find The Weekday Of A Date window: after its weekday is shown, click "
-     "\"Convert Above Date\"."},
+     "\"Convert Above Date To Old Style\" or \"Convert Above Date To New Style\"."},
     {"Finding A Weekday",
      "To find the weekday of any date, choose \"Find A Date's Weekday\" from the Tools menu, press 'Ctrl' + 'W', "
      "or click \"Find A Date's Weekday\" on the small calendar window.\n"
@@ -257,7 +257,7 @@ constexpr Topic kTopics[] = {
      "year 100099. A date before October 15, 1582 can be asked for only in the Julian (Old Style) calendar.\n"
      "\n"
      "Once the weekday is shown, click \"Display Above Date On Calendar\" to show the date on the calendar, or "
-     "\"Convert Above Date\" to convert it to the other calendar style."},
+     "the convert button beside it to convert the date to the other calendar style."},
     {"Displaying Today's Date On The Calendar",
      "To bring today's date on the calendar, choose \"Today's Date\" from the View menu, press 'Ctrl' + 'D', or "
      "click \"Display Todays Date On Calendar\" on the small calendar window.\n"
@@ -301,7 +301,8 @@ constexpr Topic kTopics[] = {
      "window.\n"
      "\n"
      "You are asked to confirm, unless you closed the calendar window itself. If the log has changes that are "
-     "not saved, you are asked whether to save them; Orrivane then waits until the Save As window has closed.\n"
+     "not saved, you are asked whether to save them. A log that has no file yet is saved through the Save As "
+     "window, and Orrivane waits until that window has closed.\n"
      "\n"
      "Your non-task reminders are kept for the next time you run Orrivane. The log is kept only in the file you "
      "saved it to."},
@@ -332,8 +333,8 @@ constexpr Topic kTopics[] = {
      "year 76. The list of centuries runs from 00 to 99; for the years after 9999 type the century into its box, "
      "up to 1000.\n"
      "\n"
-     "The Find Time Length window takes the century and the year in the same way; there the century may be "
-     "anything from 0 to 10000."},
+     "The Find Time Difference Between Two Selected Times window takes the century and the year in the same "
+     "way; there the century may be anything from 0 to 10000."},
     {"Selecting A month And Date",
      "To find a weekday, choose the month and the date under 'Select Month\\Date:' in the Find The Weekday Of A "
      "Date window. A date that the month does not have, such as April 31, is refused when you click ENTER.\n"
@@ -411,9 +412,9 @@ constexpr Topic kTopics[] = {
      "date, the one written beside the calendar, as it was."},
     {"Elapsed Time Between Two Times",
      "To find the time between two times, choose \"Find Time Length Between Dates\" from the Tools menu, or press "
-     "'Ctrl' + 'T'. Choose \"Time 1 - Time 2\", then the month, date, century, year, hour and minute of each time "
-     "under \"Time 1 Selection\" and \"Time 2 Selection\", and the calendar style, and click ENTER. The order of "
-     "the two times does not matter.\n"
+     "'Ctrl' + 'T'. In the Find Time Difference Between Two Selected Times window choose \"Time 1 - Time 2\", "
+     "then the month, date, century, year, hour and minute of each time under \"Time 1 Selection\" and \"Time 2 "
+     "Selection\", and the calendar style, and click ENTER. The order of the two times does not matter.\n"
      "\n"
      "The system time is assumed for all fields that are left blank with a couple of exceptions: When the "
      "century is specified and the year is not, the year is assumed to be '00' and, when the hour is specified "
@@ -429,8 +430,9 @@ constexpr Topic kTopics[] = {
      "or 397 days or 9529 hours or 571,741 minutes; shared out over all five units it is 1 year, 1 month, 1 "
      "day, 1 hour and 1 minute, and with Years unchecked it is 13 months, 1 day, 1 hour and 1 minute."},
     {"Elapsed Time From The Current Time",
-     "To find the time from now to another time, open the Find Time Length window ('Ctrl' + 'T') and choose "
-     "\"Time 1 - Current Time\" or \"Time 2 - Current Time\". The other time selection is switched off, and the "
+     "To find the time from now to another time, choose \"Find Time Length Between Dates\" from the Tools menu, "
+     "or press 'Ctrl' + 'T', and choose \"Time 1 - Current Time\" or \"Time 2 - Current Time\". The other time "
+     "selection is switched off, and the "
      "present date and time of your computer take its place. Choose the time and click ENTER. The seconds of the "
      "present time are not counted.\n"
      "\n"
