@@ -173,7 +173,7 @@ void Form1::Connect_Controls() {
   connect(cmdFindHolidayDates, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmFindAHoliday>()); });
   connect(cmdExit, &QPushButton::clicked, this, [this] { Terminate_This_Program(calendar::kForm1CmdExitClick); });
 
-  menu->On("mnuExit", [this] { Terminate_This_Program(calendar::kForm1MnuExitClick); });
+  menu->On("mnuExit", [this] { Terminate_This_Program(calendar::kForm1MnuExit); });
   menu->On("mnuTodaysDate", [this] { Display_Todays_Date(); });
   menu->On("mnuNext", [this] { Display_Next_Month_On_Calendar(); });
   menu->On("mnuPrevious", [this] { Display_Prior_Month_On_Calendar(); });

@@ -37,7 +37,7 @@ inline constexpr std::string_view kFindDateDifferenceCmdEnterClick = "frmFindDat
 // ---- Terminate_This_Program: only kFormUnload means something (no question is asked) ----------
 inline constexpr std::string_view kFormUnload = "Form_Unload";
 inline constexpr std::string_view kForm1CmdExitClick = "cmdEXIT_Click()";
-inline constexpr std::string_view kForm1MnuExitClick = "mnuExit";
+inline constexpr std::string_view kForm1MnuExit = "mnuExit";
 inline constexpr std::string_view kLargeCalendarCmdExitClick = "frmLargeCalendar.cmdExit_Click()";
 inline constexpr std::string_view kLargeCalendarMnuExitClick = "mnuExit_Click()";
 
