@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "calendar/Form1.h"
+#include "calendar/calendar_callers.h"
 #include "core/value.h"
 #include "engine/calendar_engine.h"
 #include "organizer/date_time_text.h"
@@ -19,9 +20,6 @@ namespace orrivane {
 namespace {
 
 using platform::Machine;
-
-// The caller identity under which Form1's Convert turns today into its Old Style date.
-constexpr char kCmdEnterClick[] = "frmFindDateDifference.cmdENTER_Click()";
 
 // Where a side's moment comes from, inside one click of cmdENTER.
 constexpr char kTime1[] = "Time 1";
@@ -309,7 +307,7 @@ elapsed::Time_Selection frmFindDateDifference::Present(const std::string& Cal_St
     Form1& form1 = Window<Form1>();
     form1.Store_Format_Day_Of_Week_Label_Variables("Date_String", "Put", today);
     form1.Store_Format_Day_Of_Week_Label_Variables("Cal_Style", "Put", "Gregorian");
-    form1.Convert(kCmdEnterClick);
+    form1.Convert(calendar::kFindDateDifferenceCmdEnterClick);
     today = form1.Store_Format_Day_Of_Week_Label_Variables("Date_String", "Get");
   }
   // The clock's own time in either style; its seconds play no part.

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "core/value.h"
+#include "holidays/holiday_callers.h"
 
 namespace orrivane::holidays {
 
@@ -25,10 +26,6 @@ inline constexpr int kHolidayYearLimit = 100100;
 // "Display All By Year" mode.
 inline constexpr int kEarliestHolidayYear = 1582;
 inline constexpr int kHolidayCount = 25;
-
-// The caller identities that select a customer of the engine; any other text selects nobody.
-inline constexpr std::string_view kFindAHolidayCaller = "Display_Holiday(Calling_Sub)";
-inline constexpr std::string_view kCalendarCaller = "Form1.Display_Next_Month_On_Calendar()";
 
 // ---- Easter ---------------------------------------------------------------------------------
 
