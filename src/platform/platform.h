@@ -5,6 +5,7 @@
 // real one (qt_platform.h); a test installs its own (tests/support).
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QImage;
