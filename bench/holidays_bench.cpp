@@ -81,7 +81,7 @@ void BM_Calendar_Table_One_Year(benchmark::State& state) {
   for (auto _ : state) {
     Holiday_Data_Keeper keeper;
     Holiday_Keeper_Receiver receiver(keeper);
-    Display_All_Holidays_For_Selected_Year(2003, kCalendarCaller, receiver);
+    Display_All_Holidays_For_Selected_Year(2003, kCalendarHolidayTableCaller, receiver);
     benchmark::DoNotOptimize(keeper);
   }
 }

@@ -226,7 +226,7 @@ void Holidays(Operands operands) {
   const std::int64_t to = Near(from, Number(operands, 2));
   const bool range = Number(operands, 3) % 2 != 0;
   Discarding_Receiver receiver;
-  for (const std::string_view caller : {holidays::kFindAHolidayCaller, holidays::kCalendarCaller}) {
+  for (const std::string_view caller : {holidays::kFindAHolidayCaller, holidays::kCalendarHolidayTableCaller}) {
     Defined([&] {
       Value to_box(to);
       static_cast<void>(holidays::Display_Holiday_II(name, Value(from), to_box, caller, {true, range}, receiver));

@@ -9,7 +9,7 @@
 
 #include "core/sequential_file.h"
 #include "fuzz_harness.h"
-#include "organizer/schedule_record.h"
+#include "organizer/log_file.h"
 
 namespace {
 

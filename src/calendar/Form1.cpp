@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QTimer>
 
+#include "calendar/calendar_callers.h"
 #include "calendar/frmFindADate.h"
 #include "calendar/frmLargeCalendar.h"
 #include "calendar/frmSelectMonth.h"
@@ -11,8 +12,8 @@
 #include "holidays/frmFindAHoliday.h"
 #include "shell/frmAbout.h"
 #include "shell/frmLiscense.h"
-#include "core/sequential_file.h"
 #include "engine/calendar_engine.h"
+#include "organizer/log_file.h"
 #include "platform/controls.h"
 #include "platform/message_box.h"
 #include "platform/platform.h"
@@ -176,9 +177,9 @@ void Form1::Connect_Controls() {
   connect(cmdDisplayMonthOnCalendar, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmSelectMonth>()); });
   connect(cmdFindADatesWeekday, &QPushButton::clicked, this, [] { Window<frmFindADate>().show(); });
   connect(cmdFindHolidayDates, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmFindAHoliday>()); });
-  connect(cmdExit, &QPushButton::clicked, this, [this] { Terminate_This_Program("cmdEXIT_Click()"); });
+  connect(cmdExit, &QPushButton::clicked, this, [this] { Terminate_This_Program(calendar::kForm1CmdExitClick); });
 
-  menu->On("mnuExit", [this] { Terminate_This_Program("mnuExit"); });
+  menu->On("mnuExit", [this] { Terminate_This_Program(calendar::kForm1MnuExit); });
   menu->On("mnuTodaysDate", [this] { Display_Todays_Date(); });
   menu->On("mnuNext", [this] { Display_Next_Month_On_Calendar(); });
   menu->On("mnuPrevious", [this] { Display_Prior_Month_On_Calendar(); });
@@ -337,19 +338,17 @@ void Form1::Activate_Large_Calendar() {
   hide();
 }
 
-void Form1::Terminate_This_Program(const std::string& PlaceOfOrigin) {
-  if (PlaceOfOrigin != "Form_Unload") {
+void Form1::Terminate_This_Program(std::string_view PlaceOfOrigin) {
+  if (PlaceOfOrigin != calendar::kFormUnload) {
     if (platform::Show_Message(kExitQuestion) != platform::vbYes) return;
   }
-  // A file that is not there is no failure, and the second is tried whatever became of the first.
-  Delete_File("Schedule.tmp");
-  Delete_File("TRemin.tmp");
+  organizer::Delete_Working_Log();
   Machine().End_Process(0);
 }
 
 void Form1::closeEvent(QCloseEvent* event) {
   event->ignore();
-  Terminate_This_Program("Form_Unload");
+  Terminate_This_Program(calendar::kFormUnload);
 }
 
 }  // namespace orrivane

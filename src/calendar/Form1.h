@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "calendar/CalendarFace.h"
 #include "calendar/MenuTree.h"
@@ -68,18 +69,18 @@ class Form1 : public QMainWindow {
   void Draw_Selected_Date(const engine::CalendarrDate& date);
 
   // ---- Weekday, layout and the day line ------------------------------------------------------
-  int Calendarr(const std::string& CallingSubOrigin);
-  int Form1_Field_Validation_Check_Status(const std::string& Calling_Sub_Origin);
+  int Calendarr(std::string_view CallingSubOrigin);
+  int Form1_Field_Validation_Check_Status(std::string_view Calling_Sub_Origin);
   void Format_Day_Of_Week_Label(const std::string& Month_, const Value& Date_, const Value& Year_,
-                                const std::string& CalStyle, const std::string& Calling_Sub_Origin);
-  void Display_Weekday(int WeekDayNo, const std::string& Calling_Sub_Origin);
+                                const std::string& CalStyle, std::string_view Calling_Sub_Origin);
+  void Display_Weekday(int WeekDayNo, std::string_view Calling_Sub_Origin);
   void Display_Todays_Date();
   Value Store_Format_Day_Of_Week_Label_Variables(const std::string& Variable_Name,
                                                  const std::string& Action_To_Perform, const Value& value = {});
 
   // ---- Conversion ------------------------------------------------------------------------
   void Cal_Conversion();
-  void Convert(const std::string& Calling_Sub_Origin);
+  void Convert(std::string_view Calling_Sub_Origin);
 
   // ---- Holidays on the calendar ------------------------------------------------------------
   // Writes the holidays of the days on show into the holiday cells of the large calendar.
@@ -94,7 +95,7 @@ class Form1 : public QMainWindow {
 
   // ---- Windows and the way out ---------------------------------------------------------------
   void Activate_Large_Calendar();
-  void Terminate_This_Program(const std::string& PlaceOfOrigin);
+  void Terminate_This_Program(std::string_view PlaceOfOrigin);
   void Form_Activate();
 
   // The style on show, read back from the heading: "Gregorian", "Julian" or "".

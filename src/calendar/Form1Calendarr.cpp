@@ -2,6 +2,7 @@
 // between the styles: they fetch their dates from the windows by the caller's identity, hand
 // plain values to the calendar engine and write its answers to the controls.
 #include "calendar/Form1.h"
+#include "calendar/calendar_callers.h"
 #include "calendar/day_description.h"
 #include "calendar/frmDateConversion.h"
 #include "calendar/frmFindADate.h"
@@ -10,11 +11,11 @@
 #include "core/text.h"
 #include "engine/calendar_engine.h"
 #include "organizer/date_time_text.h"
+#include "organizer/log_file.h"
 #include "platform/controls.h"
 #include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
-#include "core/sequential_file.h"
 #include "shell/frmAbout.h"
 
 namespace orrivane {
@@ -53,23 +54,23 @@ std::string Shown_Date_Text(const std::string& month, long long date, long long 
 
 // ---- Calendarr ---------------------------------------------------------------------------------
 
-int Form1::Calendarr(const std::string& CallingSubOrigin) {
+int Form1::Calendarr(std::string_view CallingSubOrigin) {
   engine::CalendarrDate date;
   bool draw = false;
-  if (CallingSubOrigin == "frmFindADate.OutputDay()") {
+  if (CallingSubOrigin == calendar::kFindADateOutputDay) {
     const frmFindADate& find = Window<frmFindADate>();
     date.month = Text_Of(find.ComboMonths);
     date.date = Value(Text_Of(find.ComboDate)).whole();
     date.century = Value(Text_Of(find.ComboCentury)).whole();
     date.two_digit_year = Value(Text_Of(find.ComboYear)).whole();
     date.style = Style_Of(Text_Of(find.ComboCalendar));
-  } else if (CallingSubOrigin == "frmFindADate.OutputDay_On_Form1()") {
+  } else if (CallingSubOrigin == calendar::kFindADateOutputDayOnForm1) {
     const frmFindADate& find = Window<frmFindADate>();
     const ShownDate shown = Split_Shown_Date(controls::Caption(find.lblShowDate));
     date = engine::Calendarr_Date_From_Year(shown.month, Value(shown.date).whole(), Value(shown.year).whole(),
                                             Style_Of(controls::Caption(find.lblShowCalendarName)));
     draw = true;
-  } else if (CallingSubOrigin == "CmdOK_Click()") {
+  } else if (CallingSubOrigin == calendar::kCalendarrCmdOKClick) {
     const frmDateConversion& conversion = Window<frmDateConversion>();
     date.month = controls::Caption(conversion.lblConvertedMonth);
     date.date = Value(controls::Caption(conversion.lblConvertedDate)).whole();
@@ -77,10 +78,10 @@ int Form1::Calendarr(const std::string& CallingSubOrigin) {
     date.two_digit_year = Value(controls::Caption(conversion.lblConverted2DigitYear)).whole();
     date.style = Style_Of(controls::Caption(conversion.lblConvertedStyle));
     draw = true;
-  } else if (CallingSubOrigin == "Display_Todays_Date()") {
+  } else if (CallingSubOrigin == calendar::kDisplayTodaysDate) {
     date = engine::Calendarr_Date_From_System_Date(Machine().System_Date());
     draw = true;
-  } else if (CallingSubOrigin == "frmFindAHoliday.Display_Holiday_On_Calendar") {
+  } else if (CallingSubOrigin == calendar::kFindAHolidayDisplayHolidayOnCalendar) {
     frmFindAHoliday& find = Window<frmFindAHoliday>();
     date = engine::Calendarr_Date_From_Year(find.Selected_Holiday_Sent_To_Calendar("Get Month", "null").text(),
                                             find.Selected_Holiday_Sent_To_Calendar("Get Date", "null").whole(),
@@ -94,9 +95,9 @@ int Form1::Calendarr(const std::string& CallingSubOrigin) {
   const engine::CalendarrResult result = engine::Calendarr_Compute(date);
   Show_Message(result.message);
   if (draw && result.valid) Draw_Selected_Date(date);
-  if (CallingSubOrigin == "frmFindADate.OutputDay()") {
+  if (CallingSubOrigin == calendar::kFindADateOutputDay) {
     Format_Day_Of_Week_Label(date.month, date.date, date.year(), engine::Calendar_Style_Name(date.style),
-                             "Form1.Calendarr for frmFindADate");
+                             calendar::kForm1CalendarrForFindADate);
   }
   return result.valid ? result.weekday : 0;
 }
@@ -116,7 +117,7 @@ void Form1::Draw_Selected_Date(const engine::CalendarrDate& date) {
   large.Display_TaskList(style);
   Display_Side_Calendars(date.month, year, style);
   Display_Holidays_On_Calendar(style);
-  Format_Day_Of_Week_Label(date.month, date.date, date.year(), style, "Form1.Calendarr");
+  Format_Day_Of_Week_Label(date.month, date.date, date.year(), style, calendar::kForm1Calendarr);
 
   const std::string shown = Shown_Date_Text(date.month, date.date, date.year());
   const std::string heading = text::UCase(style) + " CALENDAR";
@@ -130,8 +131,9 @@ void Form1::Draw_Selected_Date(const engine::CalendarrDate& date) {
   controls::Set_Caption(large.lblShowDate, shown);
 }
 
-int Form1::Form1_Field_Validation_Check_Status(const std::string& Calling_Sub_Origin) {
-  if (Calling_Sub_Origin != "frmFindADate.OutputDay()" && Calling_Sub_Origin != "frmFindADate.OutputDay_On_Form1()") {
+int Form1::Form1_Field_Validation_Check_Status(std::string_view Calling_Sub_Origin) {
+  if (Calling_Sub_Origin != calendar::kFindADateOutputDay &&
+      Calling_Sub_Origin != calendar::kFindADateOutputDayOnForm1) {
     return 0;
   }
   const frmFindADate& find = Window<frmFindADate>();
@@ -153,12 +155,12 @@ Value Form1::Store_Format_Day_Of_Week_Label_Variables(const std::string& Variabl
 }
 
 void Form1::Format_Day_Of_Week_Label(const std::string& Month_, const Value& Date_, const Value& Year_,
-                                     const std::string& CalStyle, const std::string& Calling_Sub_Origin) {
+                                     const std::string& CalStyle, std::string_view Calling_Sub_Origin) {
   std::string today = Machine().System_Date();
   if (CalStyle == "Julian") {
     Store_Format_Day_Of_Week_Label_Variables("Date_String", "Put", today);
     Store_Format_Day_Of_Week_Label_Variables("Cal_Style", "Put", "Gregorian");
-    Convert("Format_Day_Of_Week_Label(ByVal Month_, ByVal Date_, ByVal Year_, CalStyle, Calling_Sub_Origin)");
+    Convert(calendar::kFormatDayOfWeekLabel);
     today = Store_Format_Day_Of_Week_Label_Variables("Date_String", "Get").text();
   }
   calendar::DayOfYear now;
@@ -175,10 +177,10 @@ void Form1::Format_Day_Of_Week_Label(const std::string& Month_, const Value& Dat
 
   QLabel* long_label = nullptr;
   QLabel* short_label = nullptr;
-  if (Calling_Sub_Origin == "Form1.Calendarr") {
+  if (Calling_Sub_Origin == calendar::kForm1Calendarr) {
     long_label = lblDisplayDay;
     short_label = lblDate;
-  } else if (Calling_Sub_Origin == "Form1.Calendarr for frmFindADate") {
+  } else if (Calling_Sub_Origin == calendar::kForm1CalendarrForFindADate) {
     long_label = Window<frmFindADate>().lblDisplayDay;
     short_label = Window<frmFindADate>().lblDate;
   } else {
@@ -188,34 +190,35 @@ void Form1::Format_Day_Of_Week_Label(const std::string& Month_, const Value& Dat
   controls::Set_Caption(short_label, wording.short_wording);
 }
 
-void Form1::Display_Weekday(int WeekDayNo, const std::string& Calling_Sub_Origin) {
+void Form1::Display_Weekday(int WeekDayNo, std::string_view Calling_Sub_Origin) {
   const std::string name = WeekDayNo >= 1 && WeekDayNo <= 7 ? engine::Define_Weekday(WeekDayNo, "Get Weekday Name").text() : "";
   const std::string shown = name.empty() ? "N\\A" : " " + name;
   if (!name.empty()) controls::Set_Caption(Window<frmLargeCalendar>().lblMonthYear, name);
   QLineEdit* target = nullptr;
-  if (Calling_Sub_Origin == "OutputDay" || Calling_Sub_Origin == "Display_Todays_Date()" ||
-      Calling_Sub_Origin == "cmdOK_Click()" || Calling_Sub_Origin == "frmFindADate.OutputDay_On_Form1()") {
+  if (Calling_Sub_Origin == calendar::kForm1OutputDay || Calling_Sub_Origin == calendar::kDisplayTodaysDate ||
+      Calling_Sub_Origin == calendar::kDisplayWeekdayCmdOKClick ||
+      Calling_Sub_Origin == calendar::kFindADateOutputDayOnForm1) {
     target = txtShowWeekday;
-  } else if (Calling_Sub_Origin == "frmFindADate.OutputDay()") {
+  } else if (Calling_Sub_Origin == calendar::kFindADateOutputDay) {
     target = Window<frmFindADate>().txtShowWeekday;
   }
   if (target != nullptr) target->setText(QString::fromStdString(shown));
 }
 
 void Form1::Display_Todays_Date() {
-  Display_Weekday(Calendarr("Display_Todays_Date()"), "Display_Todays_Date()");
+  Display_Weekday(Calendarr(calendar::kDisplayTodaysDate), calendar::kDisplayTodaysDate);
   controls::Set_Caption(lblShowCalendarName, "Gregorian");
   controls::Set_Caption(lblCalendarNameOverCalendar, "GREGORIAN CALENDAR");
 }
 
 // ---- Conversion between the styles ------------------------------------------------------------
 
-void Form1::Cal_Conversion() { Convert("Cal_Conversion()"); }
+void Form1::Cal_Conversion() { Convert(calendar::kCalConversion); }
 
-void Form1::Convert(const std::string& Calling_Sub_Origin) {
+void Form1::Convert(std::string_view Calling_Sub_Origin) {
   engine::ConvertDate source;
   bool open_window = true;
-  if (Calling_Sub_Origin == "Cal_Conversion()") {
+  if (Calling_Sub_Origin == calendar::kCalConversion) {
     const std::string shown = controls::Caption(lblShowDate);
     const long long last_blank = text::InStrRev(shown, " ");
     const std::string month_and_date = text::Left(shown, last_blank - 2);
@@ -225,14 +228,13 @@ void Form1::Convert(const std::string& Calling_Sub_Origin) {
     source.year = Value(text::Mid(shown, last_blank + 1)).whole();
     const std::string heading = controls::Caption(lblCalendarNameOverCalendar);
     source.style = heading == "JULIAN CALENDAR" ? CalendarStyle::Julian : CalendarStyle::Gregorian;
-  } else if (Calling_Sub_Origin == "frmFindADate.cmdConvertAboveDate__Click()") {
+  } else if (Calling_Sub_Origin == calendar::kFindADateConvertAboveDate) {
     const frmFindADate& find = Window<frmFindADate>();
     const ShownDate shown = Split_Shown_Date(controls::Caption(find.lblShowDate));
     source = {shown.month, Value(shown.date).whole(), Value(shown.year).whole(),
               Style_Of(controls::Caption(find.lblShowCalendarName))};
-  } else if (Calling_Sub_Origin ==
-                 "Format_Day_Of_Week_Label(ByVal Month_, ByVal Date_, ByVal Year_, CalStyle, Calling_Sub_Origin)" ||
-             Calling_Sub_Origin == "frmFindDateDifference.cmdENTER_Click()") {
+  } else if (Calling_Sub_Origin == calendar::kFormatDayOfWeekLabel ||
+             Calling_Sub_Origin == calendar::kFindDateDifferenceCmdEnterClick) {
     const Value kept = Store_Format_Day_Of_Week_Label_Variables("Date_String", "Get");
     source.month = engine::Define_Month(organizer::Parse_Date(kept, "Month"), "Get Month Name").text();
     source.date = organizer::Parse_Date(kept, "Date").whole();
@@ -261,8 +263,7 @@ void Form1::Start_Program() {
   hide();
   Window<frmLargeCalendar>().show();
   Window<frmAbout>().show();
-  Empty_File("Schedule.tmp");
-  Empty_File("TRemin.tmp");
+  organizer::Empty_Working_Log();
   Display_Todays_Date();
   const std::string today = Machine().System_Date();
   const double month = organizer::Parse_Date(today, "Month").number();

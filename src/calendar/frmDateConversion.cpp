@@ -1,6 +1,7 @@
 #include "calendar/frmDateConversion.h"
 
 #include "calendar/Form1.h"
+#include "calendar/calendar_callers.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
 
@@ -76,7 +77,7 @@ void frmDateConversion::Show_Conversion(const engine::ConvertResult& result) {
 void frmDateConversion::cmdOK_Click() {
   if (ChkDisplayConvertedDate->isChecked()) {
     Form1& main = Window<Form1>();
-    main.Display_Weekday(main.Calendarr("CmdOK_Click()"), "cmdOK_Click()");
+    main.Display_Weekday(main.Calendarr(calendar::kCalendarrCmdOKClick), calendar::kDisplayWeekdayCmdOKClick);
     ChkDisplayConvertedDate->setChecked(false);
     const std::string equivalent = controls::Caption(lblEquivalent);
     // The calendar now shows the other style, so the button offers the way back.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "calendar/Form1.h"
+#include "calendar/calendar_callers.h"
 #include "core/value.h"
 #include "engine/calendar_engine.h"
 #include "platform/controls.h"
@@ -12,10 +13,6 @@
 namespace orrivane {
 
 namespace {
-
-constexpr char kOutputDay[] = "frmFindADate.OutputDay()";
-constexpr char kOutputDayOnForm1[] = "frmFindADate.OutputDay_On_Form1()";
-constexpr char kConvertAboveDate[] = "frmFindADate.cmdConvertAboveDate__Click()";
 
 using controls::Make_Label;
 
@@ -144,11 +141,11 @@ void frmFindADate::Connect_Controls() {
 
 void frmFindADate::OutputDay() {
   Form1& form1 = Window<Form1>();
-  if (form1.Form1_Field_Validation_Check_Status(kOutputDay) != 0) return;
+  if (form1.Form1_Field_Validation_Check_Status(calendar::kFindADateOutputDay) != 0) return;
   // Calendarr has told why a date does not exist; the date accepted before stays.
-  const int weekday = form1.Calendarr(kOutputDay);
+  const int weekday = form1.Calendarr(calendar::kFindADateOutputDay);
   if (weekday == 0) return;
-  form1.Display_Weekday(weekday, kOutputDay);
+  form1.Display_Weekday(weekday, calendar::kFindADateOutputDay);
   Accept_Entered_Date();
 }
 
@@ -174,13 +171,13 @@ void frmFindADate::Accept_Entered_Date() {
 
 void frmFindADate::OutputDay_On_Form1() {
   Form1& form1 = Window<Form1>();
-  if (form1.Form1_Field_Validation_Check_Status(kOutputDayOnForm1) != 0) return;
+  if (form1.Form1_Field_Validation_Check_Status(calendar::kFindADateOutputDayOnForm1) != 0) return;
   // Calendarr draws the date of lblShowDate, not what the entries hold now.
-  const int weekday = form1.Calendarr(kOutputDayOnForm1);
-  form1.Display_Weekday(weekday, kOutputDayOnForm1);
+  const int weekday = form1.Calendarr(calendar::kFindADateOutputDayOnForm1);
+  form1.Display_Weekday(weekday, calendar::kFindADateOutputDayOnForm1);
 }
 
-void frmFindADate::cmdConvertAboveDate__Click() { Window<Form1>().Convert(kConvertAboveDate); }
+void frmFindADate::cmdConvertAboveDate__Click() { Window<Form1>().Convert(calendar::kFindADateConvertAboveDate); }
 
 void frmFindADate::cmdCloseThisWindow_Click() { hide(); }
 

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "calendar/Form1.h"
+#include "calendar/calendar_callers.h"
 #include "calendar/frmFindADate.h"
 #include "calendar/frmSelectMonth.h"
 #include "calendar/task_overlay.h"
@@ -13,9 +14,8 @@
 #include "holidays/frmFindAHoliday.h"
 #include "shell/frmAbout.h"
 #include "shell/frmLiscense.h"
-#include "core/sequential_file.h"
 #include "engine/calendar_engine.h"
-#include "organizer/schedule_record.h"
+#include "organizer/log_file.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
 
@@ -137,8 +137,8 @@ void frmLargeCalendar::Connect_Controls() {
   connect(cmdNextMonth, &QPushButton::clicked, this, [] { Window<Form1>().Display_Next_Month_On_Calendar(); });
   connect(cmdPriorMonth, &QPushButton::clicked, this, [] { Window<Form1>().Display_Prior_Month_On_Calendar(); });
   connect(cmdExit, &QPushButton::clicked, this,
-          [] { Window<Form1>().Terminate_This_Program("frmLargeCalendar.cmdExit_Click()"); });
-  menu->On("mnuExit", [] { Window<Form1>().Terminate_This_Program("mnuExit_Click()"); });
+          [] { Window<Form1>().Terminate_This_Program(calendar::kLargeCalendarCmdExitClick); });
+  menu->On("mnuExit", [] { Window<Form1>().Terminate_This_Program(calendar::kLargeCalendarMnuExitClick); });
   menu->On("mnuTodaysDates", [] { Window<Form1>().Display_Todays_Date(); });
   menu->On("mnuNext", [] { Window<Form1>().Display_Next_Month_On_Calendar(); });
   menu->On("mnuPrevious", [] { Window<Form1>().Display_Prior_Month_On_Calendar(); });
@@ -194,29 +194,17 @@ void frmLargeCalendar::Display_TaskList(const std::string& Cal_Style) {
   shown.last_caption = Value(captions[engine::kLastGridCell]).whole();
   const std::string member = cboShowTaskListFor->currentText().toStdString();
 
-  SequentialReader log("Schedule.tmp");
-  organizer::ScheduleRecord record;
-  while (!log.Eof()) {
-    organizer::Schedule_File("Input", log, record);
-    if (record.Record_Number.number() <= -1 || record.Person_Name != Value(member)) continue;
-    const long long year = static_cast<long long>(record.Start_Century.number() * 100 + record.Start_Year.number());
-    const long long date = static_cast<long long>(record.Start_Date.number());
-    for (int cell : calendar::Task_Cells(shown, record.Start_Month.text(), date, year)) {
-      cboAppointments[cell]->show();
-      cboAppointments[cell]->addItem(QString::fromStdString(
-          calendar::Task_Item(record.Start_Hour.text(), record.Task_Name.text(), record.Record_Number.text())));
-    }
-  }
+  calendar::Show_Tasks_On_Grid(organizer::kScheduleFile, shown, member, [this](const calendar::TaskOnGrid& task) {
+    cboAppointments[task.cell]->show();
+    cboAppointments[task.cell]->addItem(QString::fromStdString(task.item));
+  });
 }
 
 void frmLargeCalendar::cboShowTaskListFor_DropDown() {
-  SequentialReader log("Schedule.tmp");
-  organizer::ScheduleRecord record;
-  while (!log.Eof()) {
-    organizer::Schedule_File("Input", log, record);
-    const QString name = QString::fromStdString(record.Person_Name.text());
+  organizer::For_Each_Member(organizer::kScheduleFile, [this](const std::string& member) {
+    const QString name = QString::fromStdString(member);
     if (cboShowTaskListFor->findText(name, Qt::MatchExactly) < 0) cboShowTaskListFor->addItem(name);
-  }
+  });
 }
 
 void frmLargeCalendar::Show_Task_List_Choice(bool shown) {
@@ -245,7 +233,7 @@ void frmLargeCalendar::Activate_Form1() {
 
 void frmLargeCalendar::closeEvent(QCloseEvent* event) {
   event->ignore();
-  Window<Form1>().Terminate_This_Program("Form_Unload");
+  Window<Form1>().Terminate_This_Program(calendar::kFormUnload);
 }
 
 void frmLargeCalendar::resizeEvent(QResizeEvent* event) {

@@ -1,6 +1,8 @@
 #include "calendar/task_overlay.h"
 
+#include "core/value.h"
 #include "engine/calendar_engine.h"
+#include "organizer/log_file.h"
 
 namespace orrivane::calendar {
 
@@ -35,6 +37,18 @@ std::vector<int> Task_Cells(const ShownMonth& shown, const std::string& start_mo
 
 std::string Task_Item(const std::string& start_hour, const std::string& task_name, const std::string& record_number) {
   return start_hour + ", " + task_name + ", #" + record_number;
+}
+
+void Show_Tasks_On_Grid(const std::string& log_path, const ShownMonth& shown, const std::string& member,
+                        const std::function<void(const TaskOnGrid&)>& show) {
+  organizer::For_Each_Record(log_path, [&](const organizer::ScheduleRecord& record) {
+    if (record.Record_Number.number() <= -1 || record.Person_Name != Value(member)) return;
+    const long long year = static_cast<long long>(record.Start_Century.number() * 100 + record.Start_Year.number());
+    const long long date = static_cast<long long>(record.Start_Date.number());
+    for (int cell : Task_Cells(shown, record.Start_Month.text(), date, year)) {
+      show({cell, Task_Item(record.Start_Hour.text(), record.Task_Name.text(), record.Record_Number.text())});
+    }
+  });
 }
 
 }  // namespace orrivane::calendar

@@ -2,6 +2,7 @@
 // Where the large calendar lists a task: the cell of its start day among the 42, for the
 // month on show, the days of the month before in the first row and of the month after in
 // the last rows.
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,5 +26,18 @@ std::vector<int> Task_Cells(const ShownMonth& shown, const std::string& start_mo
 
 // The item a task shows in its cell's list: "14, Dentist, #1".
 std::string Task_Item(const std::string& start_hour, const std::string& task_name, const std::string& record_number);
+
+// A task in its cell's list.
+struct TaskOnGrid {
+  int cell = 0;
+  std::string item;
+};
+
+// Hands `show` the tasks of `member` in the log at `log_path` as it reads them, in the order of
+// the log, each as often as it has cells on the grid; a truncated record ends the reading with
+// the failure 62 after the tasks before it were shown. Marker records and records numbered
+// below 0 are passed over.
+void Show_Tasks_On_Grid(const std::string& log_path, const ShownMonth& shown, const std::string& member,
+                        const std::function<void(const TaskOnGrid&)>& show);
 
 }  // namespace orrivane::calendar

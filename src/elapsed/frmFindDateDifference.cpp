@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "calendar/Form1.h"
+#include "calendar/calendar_callers.h"
 #include "core/value.h"
 #include "engine/calendar_engine.h"
 #include "organizer/date_time_text.h"
@@ -20,9 +21,6 @@ namespace orrivane {
 namespace {
 
 using platform::Machine;
-
-// The caller identity under which Form1's Convert turns today into its Old Style date.
-constexpr char kCmdEnterClick[] = "frmFindDateDifference.cmdENTER_Click()";
 
 // Where a side's moment comes from, inside one click of cmdENTER.
 constexpr char kTime1[] = "Time 1";
@@ -304,17 +302,19 @@ elapsed::Time_Selection frmFindDateDifference::Selection_Of(int side) const {
 }
 
 elapsed::Time_Selection frmFindDateDifference::Present(const std::string& Cal_Style) const {
-  Value today = Machine().System_Date();
+  // Date and time from one reading of the clock, so that the two never straddle midnight.
+  const platform::ClockReading clock = Machine().Read_Clock();
+  Value today = clock.date;
   if (Cal_Style == "Julian") {
     // Today in the Old Style, through the main window's silent conversion and its keeper.
     Form1& form1 = Window<Form1>();
     form1.Store_Format_Day_Of_Week_Label_Variables("Date_String", "Put", today);
     form1.Store_Format_Day_Of_Week_Label_Variables("Cal_Style", "Put", "Gregorian");
-    form1.Convert(kCmdEnterClick);
+    form1.Convert(calendar::kFindDateDifferenceCmdEnterClick);
     today = form1.Store_Format_Day_Of_Week_Label_Variables("Date_String", "Get");
   }
   // The clock's own time in either style; its seconds play no part.
-  const std::string time = Machine().System_Time();
+  const std::string& time = clock.time;
   const Value hour = organizer::Convert_Hour_To_Military_Time(organizer::Parse_System_Time(time, "Hour"),
                                                               organizer::Parse_System_Time(time, "Time Of Day"));
   return elapsed::Selection_At(engine::Define_Month(organizer::Parse_Date(today, "Month"), "Get Month Name").text(),

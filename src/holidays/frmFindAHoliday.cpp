@@ -6,8 +6,10 @@
 #include <algorithm>
 
 #include "calendar/Form1.h"
+#include "calendar/calendar_callers.h"
 #include "calendar/frmLargeCalendar.h"
 #include "core/text.h"
+#include "holidays/holiday_callers.h"
 #include "holidays/holiday_list_file.h"
 #include "holidays/holiday_list_print.h"
 #include "platform/controls.h"
@@ -16,6 +18,7 @@
 #include "platform/window_registry.h"
 #include "shell/frmOpenFile.h"
 #include "shell/frmSaveFile.h"
+#include "shell/shell_callers.h"
 
 namespace orrivane {
 
@@ -23,10 +26,7 @@ namespace {
 
 using platform::Machine;
 
-constexpr char kCalendarCaller[] = "frmFindAHoliday.Display_Holiday_On_Calendar";
-constexpr char kCallerName[] = "frmFindAHoliday";
-// The system's colour of a text box's face.
-constexpr unsigned kWindowBackground = 0x80000005;
+using colours::kWindowBackground;
 // Lines a batch: a request of a thousand years of every holiday fits in one, and a request of
 // the whole reach yields about fifty times on its way.
 constexpr std::size_t kLinesPerBatch = 50000;
@@ -209,8 +209,9 @@ void frmFindAHoliday::Connect_Controls() {
   connect(lstListHolidayDates->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     if (List_Index() >= 0) lstListHolidayDates_Click();
   });
-  connect(cmdSelect, &QPushButton::clicked, this, [this] { Display_Holiday("cmdSelect_Click"); });
-  connect(cmdCalendar, &QPushButton::clicked, this, [this] { Display_Holiday_On_Calendar("cmdCalendar_Click()"); });
+  connect(cmdSelect, &QPushButton::clicked, this, [this] { Display_Holiday(holidays::kCmdSelectClick); });
+  connect(cmdCalendar, &QPushButton::clicked, this,
+          [this] { Display_Holiday_On_Calendar(holidays::kCmdCalendarClick); });
   connect(cmdRemoveItem, &QPushButton::clicked, this, [this] { Remove_A_List_Item(); });
   connect(cmdSave, &QPushButton::clicked, this, [this] { Activate_Save_File_Window(); });
   connect(cmdClear, &QPushButton::clicked, this, [this] { Clear_lstListHolidayDates(); });
@@ -220,8 +221,8 @@ void frmFindAHoliday::Connect_Controls() {
   menu->On("mnuOpenFile", [this] { mnuOpenFile_Click(); });
   menu->On("mnuPrintHolidayList", [this] { mnuPrintHolidayList_Click(); });
   menu->On("mnuCloseWindow", [this] { Close_Window(); });
-  menu->On("mnuAddHolidayDateToList", [this] { Display_Holiday("mnuAddHolidayDateToList_Click"); });
-  menu->On("mnuDisplaySelectedOnCalendar", [this] { Display_Holiday_On_Calendar("cmdCalendar_Click()"); });
+  menu->On("mnuAddHolidayDateToList", [this] { Display_Holiday(holidays::kMnuAddHolidayDateToListClick); });
+  menu->On("mnuDisplaySelectedOnCalendar", [this] { Display_Holiday_On_Calendar(holidays::kCmdCalendarClick); });
   menu->On("mnuRemoveSelected", [this] { Remove_A_List_Item(); });
   menu->On("mnuClearList", [this] { Clear_lstListHolidayDates(); });
 }
@@ -251,21 +252,20 @@ void frmFindAHoliday::closeEvent(QCloseEvent* event) {
 
 // ---- Requests ---------------------------------------------------------------------------------
 
-void frmFindAHoliday::Display_Holiday(const std::string& Calling_Sub) {
+void frmFindAHoliday::Display_Holiday(std::string_view Calling_Sub) {
   static_cast<void>(Calling_Sub);  // a label only: both ways of asking are answered alike
   const Value from_year = Text_Of(txtFromYear);
   const Value to_year = Text_Of(txtToYear);
   if (optByHoliday->isChecked()) {
     Value last_year = to_year;
-    Display_Holiday_II(cboHoliday->currentText().toStdString(), from_year, last_year,
-                       std::string(holidays::kFindAHolidayCaller));
+    Display_Holiday_II(cboHoliday->currentText().toStdString(), from_year, last_year, holidays::kFindAHolidayCaller);
   } else if (optDisplayAllByYear->isChecked()) {
     Display_All_By_Year(from_year, to_year);
   }
 }
 
 void frmFindAHoliday::Display_Holiday_II(const std::string& HolidaySelection, const Value& FromYear, Value& ToYear,
-                                         const std::string& Calling_Sub_Origin) {
+                                         std::string_view Calling_Sub_Origin) {
   const holidays::Holiday_Window_Options options{optByHoliday->isChecked(), chkSelectRangeOfYears->isChecked()};
   holidays::Holiday_Answer answer;
   {
@@ -356,7 +356,7 @@ void frmFindAHoliday::Activate_Save_File_Window() {
   // time in a run it opens blank and its Save does nothing. This order is kept on purpose.
   frmSaveFile& save = Window<frmSaveFile>();
   save.Show_Modal();
-  controls::Set_Caption(save.lblStoreCallingProcedure, kCallerName);
+  controls::Set_Caption(save.lblStoreCallingProcedure, std::string(shell::kFindAHolidayFileCaller));
   save.txtFileName->setText(QString::fromUtf8(holidays::kDefaultHolidayListName.data(),
                                               static_cast<qsizetype>(holidays::kDefaultHolidayListName.size())));
 }
@@ -382,7 +382,7 @@ Value frmFindAHoliday::Selected_Holiday_Sent_To_Calendar(const std::string& Part
   return {};
 }
 
-void frmFindAHoliday::Display_Holiday_On_Calendar(const std::string& Calling_Sub) {
+void frmFindAHoliday::Display_Holiday_On_Calendar(std::string_view Calling_Sub) {
   static_cast<void>(Calling_Sub);  // a label only
   const int selected = List_Index();
   if (selected < 0) return;
@@ -392,7 +392,7 @@ void frmFindAHoliday::Display_Holiday_On_Calendar(const std::string& Calling_Sub
   Selected_Holiday_Sent_To_Calendar("Write Date", date.date);
   Selected_Holiday_Sent_To_Calendar("Write Year", date.year);
   Form1& main = Window<Form1>();
-  main.Calendarr(kCalendarCaller);
+  main.Calendarr(calendar::kFindAHolidayDisplayHolidayOnCalendar);
   frmLargeCalendar& large = Window<frmLargeCalendar>();
   if (main.isVisible()) {
     main.raise();
@@ -429,7 +429,7 @@ void frmFindAHoliday::mnuOpenFile_Click() {
   frmOpenFile& open = Window<frmOpenFile>();
   open.filFileOpen->Set_Pattern(QString::fromUtf8(holidays::kHolidayListPattern.data(),
                                                   static_cast<qsizetype>(holidays::kHolidayListPattern.size())));
-  controls::Set_Caption(open.lblStoreCallingProcedure, kCallerName);
+  controls::Set_Caption(open.lblStoreCallingProcedure, std::string(shell::kFindAHolidayFileCaller));
   open.Show_Modal();
 }
 

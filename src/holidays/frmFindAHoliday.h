@@ -16,6 +16,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "calendar/MenuTree.h"
@@ -57,11 +58,11 @@ class frmFindAHoliday : public QMainWindow {
 
   // ---- Requests ----------------------------------------------------------------------------
   // Answers the request of the year boxes and options. Calling_Sub is a label only.
-  void Display_Holiday(const std::string& Calling_Sub);
+  void Display_Holiday(std::string_view Calling_Sub);
   // One holiday over the years, with the checks and messages of "By Holiday" mode; the lines
   // go to the end of the list. ToYear may be overwritten with FromYear.
   void Display_Holiday_II(const std::string& HolidaySelection, const Value& FromYear, Value& ToYear,
-                          const std::string& Calling_Sub_Origin);
+                          std::string_view Calling_Sub_Origin);
   // The keeper of the count of holidays a "Display All By Year" request really added.
   double InterFunction_Counter(const std::string& Action, double Numberr);
 
@@ -88,7 +89,7 @@ class frmFindAHoliday : public QMainWindow {
   // "Get Month", "Get Date", "Get Year" answer; any other request answers nothing.
   Value Selected_Holiday_Sent_To_Calendar(const std::string& Part_Of_String, const Value& Contents_Of_String);
   // Opens the calendar on the date of the selected line. Calling_Sub is a label only.
-  void Display_Holiday_On_Calendar(const std::string& Calling_Sub);
+  void Display_Holiday_On_Calendar(std::string_view Calling_Sub);
 
   // ---- Events -----------------------------------------------------------------------------------
   void optByHoliday_Click();

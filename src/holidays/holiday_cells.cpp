@@ -74,7 +74,7 @@ void Empty_Table(Holiday_Data_Keeper& table) {
 
 void Add_Year_To_Table(Holiday_Data_Keeper& table, std::int64_t year) {
   Holiday_Keeper_Receiver receiver(table);
-  Display_All_Holidays_For_Selected_Year(Value(year), kCalendarCaller, receiver);
+  Display_All_Holidays_For_Selected_Year(Value(year), kCalendarHolidayTableCaller, receiver);
 }
 
 void Show(Holiday_Cells& cells, std::int64_t cell, std::string_view name) {

@@ -328,7 +328,7 @@ enum class Customer { Nobody, Find_A_Holiday_List, Calendar_Table };
 
 Customer Customer_Of(std::string_view Calling_Sub_Origin) {
   if (Calling_Sub_Origin == kFindAHolidayCaller) return Customer::Find_A_Holiday_List;
-  if (Calling_Sub_Origin == kCalendarCaller) return Customer::Calendar_Table;
+  if (Calling_Sub_Origin == kCalendarHolidayTableCaller) return Customer::Calendar_Table;
   return Customer::Nobody;
 }
 

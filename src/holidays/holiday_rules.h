@@ -20,6 +20,7 @@
 #include "core/value.h"
 #include "core/whole_numbers.h"
 #include "engine/month_steps.h"
+#include "holidays/holiday_callers.h"
 
 namespace orrivane::holidays {
 
@@ -29,10 +30,6 @@ inline constexpr int kHolidayYearLimit = 100100;
 // By Year" mode.
 inline constexpr int kEarliestHolidayYear = engine::kFirstGregorianYear;
 inline constexpr int kHolidayCount = 25;
-
-// The caller identities that select a customer of the engine; any other text selects nobody.
-inline constexpr std::string_view kFindAHolidayCaller = "Display_Holiday(Calling_Sub)";
-inline constexpr std::string_view kCalendarCaller = "Form1.Display_Next_Month_On_Calendar()";
 
 // ---- Easter ---------------------------------------------------------------------------------
 

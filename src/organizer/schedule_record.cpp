@@ -72,33 +72,4 @@ void Write_Person_Marker_28_Lines(SequentialWriter& file, const Value& Person_Na
   for (const Value* field : Fields_In_File_Order(marker)) file.Write_Line({*field});
 }
 
-void Generate_Person_Marker_Record(const std::string& path, const Value& Person_Name) {
-  SequentialWriter file(path, SequentialWriter::Mode::Append);
-  Write_Person_Marker_28_Lines(file, Person_Name);
-}
-
-Value Generate_Record_Number(const std::string& path) {
-  SequentialReader file(path);
-  ScheduleRecord record;
-  Value maximum = 0;
-  while (!file.Eof()) {
-    Schedule_File("Input", file, record);
-    if (Compare(record.Record_Number, maximum) >= 0) maximum = record.Record_Number;
-  }
-  return maximum.number() + 1;
-}
-
-void Copy_Log(const std::string& from, const std::string& to, const std::optional<std::string>& reminders_to) {
-  SequentialReader source(from);
-  SequentialWriter log(to);
-  std::optional<SequentialWriter> reminders;
-  if (reminders_to) reminders.emplace(*reminders_to);
-  ScheduleRecord record;
-  while (!source.Eof()) {
-    Schedule_File("Input", source, record);
-    Schedule_File("Write", log, record);
-    if (reminders && record.Reminder_Status == Value(1)) Schedule_File("Write", *reminders, record);
-  }
-}
-
 }  // namespace orrivane::organizer

@@ -1,5 +1,6 @@
 #pragma once
-// The record of the Organizer's log and the files that hold it.
+// The record of the Organizer's log, its reader and its writer (organizer/log_file.h has the
+// operations on whole files).
 //
 // A log is a flat file of 28-value records, task records and person marker records mixed, in
 // order of entry, with no header, count or trailer: an empty log is an empty file. A record is
@@ -7,19 +8,12 @@
 // written stands in 28 lines of one value. The reader takes the next value wherever a line
 // ends, so both arrangements read the same.
 #include <array>
-#include <optional>
 #include <string>
 
 #include "core/sequential_file.h"
 #include "core/value.h"
 
 namespace orrivane::organizer {
-
-// The working files of the log, in the current folder.
-inline constexpr const char* kScheduleFile = "Schedule.tmp";          // the live log
-inline constexpr const char* kScheduleScratchFile = "Schedule1.tmp";  // scratch of a rewrite
-inline constexpr const char* kTaskReminderFile = "TRemin.tmp";        // the records with reminders on
-inline constexpr const char* kTaskReminderScratchFile = "TRemin1.tmp";
 
 // One task, or a person marker record: Record_Number -1, the member's name in Person_Name and
 // -1 in every other field. Fields are loosely typed, as they stand in the file: "05" stays a
@@ -79,21 +73,5 @@ ScheduleRecord Make_Person_Marker(const Value& Person_Name);
 
 // A marker record as first written: 18 lines "-1", the quoted name, 9 lines "-1".
 void Write_Person_Marker_28_Lines(SequentialWriter& file, const Value& Person_Name);
-
-// Appends a marker record, as first written, to the log at `path` (creating it if need be).
-// Whether the member is already in the log is the caller's concern.
-void Generate_Person_Marker_Record(const std::string& path, const Value& Person_Name);
-
-// The number for a new task: one more than the highest Record_Number of the log at `path`,
-// 1 for a log without tasks. Marker records (-1) never count, numbers are never compacted, so
-// the number of a deleted last task is given out again and that of an earlier one is not.
-Value Generate_Record_Number(const std::string& path);
-
-// Copies a log record by record, which writes every marker record in the 8-line arrangement:
-// every record to `to`, and those with Reminder_Status 1 to `reminders_to` as well when it is
-// given (a marker's Reminder_Status is -1, so markers never go there). `to` and `reminders_to`
-// are replaced. A truncated record is the failure 62, and what was copied before it stays.
-void Copy_Log(const std::string& from, const std::string& to,
-              const std::optional<std::string>& reminders_to = std::nullopt);
 
 }  // namespace orrivane::organizer

@@ -22,6 +22,21 @@ Platform& Machine() {
 
 void Install(Platform* platform) { installed = platform; }
 
+void Require_Timer_Interval(int interval_ms) {
+  if (interval_ms <= 0) throw std::invalid_argument("a timer needs an interval of more than 0 milliseconds");
+}
+
+void TimerTick::Run() {
+  if (running_) return;
+  running_ = true;
+  // Reset also when the tick fails, so that the failure does not silence the timer.
+  struct Finished {
+    bool& running;
+    ~Finished() { running = false; }
+  } finished{running_};
+  tick_();
+}
+
 void RandomSequence::Seed(double seed) {
   // Fold the bits of the seed into the 24-bit state, so that near seeds part at once.
   std::uint64_t bits = 0;

@@ -1,9 +1,11 @@
 #pragma once
 // The seam to the machine. Everything the program takes from the machine passes through here:
-// the clock as text, message boxes, the printer, the beep, the pseudo-random fraction, the
-// yield to the window system and the end of the process. The program installs the real one
-// (qt_platform.h); a test installs its own (tests/support).
+// the clock as text, repeating timers, message boxes, the printer, the beep, the pseudo-random
+// fraction, the yield to the window system and the end of the process. The program installs the
+// real one (qt_platform.h); a test installs its own (tests/support).
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/message.h"
@@ -27,6 +29,16 @@ struct PrintedText {
 };
 using TextPage = std::vector<PrintedText>;
 
+// Today and now, read from the clock at one instant, so that the two never straddle midnight.
+struct ClockReading {
+  std::string date;  // "3/5/2001": month/day/year, no leading zeros
+  std::string time;  // "2:05:09 PM": hour without a leading zero, minutes and seconds with
+  bool operator==(const ClockReading&) const = default;
+};
+
+// Names a running repeating timer; 0 names none.
+using TimerId = int;
+
 // Ends the process. Thrown by a test platform in place of ending, so that nothing after the
 // end runs; the event dispatch swallows it.
 struct ProcessEnded {
@@ -37,10 +49,21 @@ class Platform {
  public:
   virtual ~Platform() = default;
 
-  // Today as "3/5/2001" (month/day/year, no leading zeros).
-  virtual std::string System_Date() = 0;
-  // Now as "2:05:09 PM" (hour without leading zero, minutes and seconds with).
-  virtual std::string System_Time() = 0;
+  // One reading of the clock. What needs both the date and the time takes them from one reading.
+  virtual ClockReading Read_Clock() = 0;
+  // Today as "3/5/2001", when the time of day plays no part.
+  std::string System_Date() { return Read_Clock().date; }
+  // Now as "2:05:09 PM", when the date plays no part.
+  std::string System_Time() { return Read_Clock().time; }
+
+  // Starts a timer that runs `tick` on the window thread every `interval_ms` milliseconds (more
+  // than 0) until it is stopped. A tick that comes while the previous one of the same timer is
+  // still running (it showed a modal window) is skipped, so that ticks never pile up inside
+  // each other.
+  virtual TimerId Start_Timer(int interval_ms, std::function<void()> tick) = 0;
+  // Stops a timer, also from inside its own tick: no tick of it runs afterwards. Stopping a
+  // timer that is not running does nothing.
+  virtual void Stop_Timer(TimerId timer) = 0;
 
   // A modal message box; answers vbOK, vbCancel, vbYes or vbNo.
   virtual int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) = 0;
@@ -62,6 +85,22 @@ class Platform {
 
   // Ends the process; does not return.
   [[noreturn]] virtual void End_Process(int exit_code) = 0;
+};
+
+// A timer's interval must be more than 0 milliseconds; throws std::invalid_argument otherwise.
+void Require_Timer_Interval(int interval_ms);
+
+// The tick of a repeating timer, run so that it never runs inside itself: a run that comes while
+// the previous one is under way (the tick showed a modal window, whose event loop lets the timer
+// fire again) is skipped.
+class TimerTick {
+ public:
+  explicit TimerTick(std::function<void()> tick) : tick_(std::move(tick)) {}
+  void Run();
+
+ private:
+  std::function<void()> tick_;
+  bool running_ = false;
 };
 
 // The platform in use. The program installs the real one at start.

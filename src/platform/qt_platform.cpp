@@ -8,6 +8,7 @@
 #include <QPrinterInfo>
 #include <QWidget>
 #include <cstdlib>
+#include <memory>
 
 #include "core/runtime_failure.h"
 
@@ -23,14 +24,35 @@ std::string Format_System_Time(int hour, int minute, int second) {
   return std::to_string(twelve) + ":" + two(minute) + ":" + two(second) + (hour < 12 ? " AM" : " PM");
 }
 
-std::string QtPlatform::System_Date() {
-  const QDate d = QDate::currentDate();
-  return Format_System_Date(d.year(), d.month(), d.day());
+ClockReading Clock_Reading_Of(const QDateTime& moment) {
+  const QDate d = moment.date();
+  const QTime t = moment.time();
+  return {Format_System_Date(d.year(), d.month(), d.day()), Format_System_Time(t.hour(), t.minute(), t.second())};
 }
 
-std::string QtPlatform::System_Time() {
-  const QTime t = QTime::currentTime();
-  return Format_System_Time(t.hour(), t.minute(), t.second());
+ClockReading QtPlatform::Read_Clock() { return Clock_Reading_Of(QDateTime::currentDateTime()); }
+
+QtPlatform::~QtPlatform() {
+  for (const auto& [id, timer] : timers_) delete timer;
+}
+
+TimerId QtPlatform::Start_Timer(int interval_ms, std::function<void()> tick) {
+  Require_Timer_Interval(interval_ms);
+  auto* timer = new QTimer(QCoreApplication::instance());
+  auto runs = std::make_shared<TimerTick>(std::move(tick));
+  QObject::connect(timer, &QTimer::timeout, timer, [runs] { runs->Run(); });
+  timer->start(interval_ms);
+  timers_[++last_timer_] = timer;
+  return last_timer_;
+}
+
+void QtPlatform::Stop_Timer(TimerId timer) {
+  const auto found = timers_.find(timer);
+  if (found == timers_.end()) return;
+  found->second->stop();
+  // Later, not at once: the timer may be stopped from inside its own tick.
+  found->second->deleteLater();
+  timers_.erase(found);
 }
 
 namespace {

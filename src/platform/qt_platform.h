@@ -1,7 +1,12 @@
 #pragma once
-// The real platform: the machine's clock, Qt message boxes, the default printer (or a PDF
-// file in the current folder when the machine has no printer), the system beep.
+// The real platform: the machine's clock, timers on the window thread, Qt message boxes, the
+// default printer (or a PDF file in the current folder when the machine has no printer), the
+// system beep.
 #include <QApplication>
+#include <QDateTime>
+#include <QPointer>
+#include <QTimer>
+#include <map>
 
 #include "platform/platform.h"
 
@@ -10,11 +15,18 @@ namespace orrivane::platform {
 // The clock's texts, whatever the machine's locale.
 std::string Format_System_Date(int year, int month, int day);
 std::string Format_System_Time(int hour, int minute, int second);
+// Both texts of one moment.
+ClockReading Clock_Reading_Of(const QDateTime& moment);
 
 class QtPlatform : public Platform {
  public:
-  std::string System_Date() override;
-  std::string System_Time() override;
+  QtPlatform() = default;
+  QtPlatform(const QtPlatform&) = delete;
+  QtPlatform& operator=(const QtPlatform&) = delete;
+  ~QtPlatform() override;
+  ClockReading Read_Clock() override;
+  TimerId Start_Timer(int interval_ms, std::function<void()> tick) override;
+  void Stop_Timer(TimerId timer) override;
   int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) override;
   void Print_Window(QWidget& window) override;
   void Print_Text(const std::vector<TextPage>& pages) override;
@@ -26,6 +38,10 @@ class QtPlatform : public Platform {
 
  private:
   RandomSequence random_;
+  // The running timers; each is a child of the application (which deletes it, should the
+  // application end first), deleted when stopped.
+  std::map<TimerId, QPointer<QTimer>> timers_;
+  TimerId last_timer_ = 0;
 };
 
 // The application object: its event dispatch is the one place where unhandled failures are

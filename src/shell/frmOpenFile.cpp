@@ -7,24 +7,11 @@
 #include "holidays/holiday_list_file.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
+#include "shell/shell_callers.h"
 
 namespace orrivane {
 
 namespace {
-
-// The callers this window serves, by the exact name each writes in lblStoreCallingProcedure.
-// The log's callers have their places here; reading a log (Open_Schedule_File) comes with the
-// Organizer, and until then their names select nothing.
-struct Caller {
-  const char* name;
-  void (frmOpenFile::*procedure)();
-};
-constexpr Caller kCallers[] = {
-    {"frmFindAHoliday", &frmOpenFile::Open_Holiday_List_File},
-    {"frmScheduler_Reminder", nullptr},
-    {"form1.mnuOpenLog_Click()", nullptr},
-    {"frmLargeCalendar.mnuOpenLog_Click()", nullptr},
-};
 
 using controls::Make_Label;
 
@@ -95,9 +82,13 @@ void frmOpenFile::filFileOpen_DblClick() { Dispatch_By_Caller(); }
 void frmOpenFile::cmdCancel_Click() { hide(); }
 
 void frmOpenFile::Dispatch_By_Caller() {
-  const std::string caller = controls::Caption(lblStoreCallingProcedure);
-  for (const Caller& known : kCallers) {
-    if (caller == known.name && known.procedure != nullptr) (this->*known.procedure)();
+  switch (shell::Procedure_For(shell::kOpenFileCallers, controls::Caption(lblStoreCallingProcedure))) {
+    case shell::OpenFileProcedure::Open_Holiday_List_File:
+      Open_Holiday_List_File();
+      break;
+    case shell::OpenFileProcedure::Open_Schedule_File:  // reading a log comes with the Organizer
+    case shell::OpenFileProcedure::None:
+      break;
   }
 }
 

@@ -10,22 +10,11 @@
 #include "platform/platform.h"
 #include "platform/window_registry.h"
 #include "shell/file_names.h"
+#include "shell/shell_callers.h"
 
 namespace orrivane {
 
 namespace {
-
-// The callers this window serves, by the exact name each writes in lblStoreCallingProcedure.
-// The log's caller has its place here; writing a log (Save_Schedule) comes with the Organizer,
-// and until then its name selects nothing.
-struct Caller {
-  const char* name;
-  void (frmSaveFile::*procedure)();
-};
-constexpr Caller kCallers[] = {
-    {"frmFindAHoliday", &frmSaveFile::Save_Holiday_List},
-    {"frmScheduler_Reminder", nullptr},
-};
 
 using controls::Make_Label;
 
@@ -74,9 +63,13 @@ void frmSaveFile::Show_Modal() {
 }
 
 void frmSaveFile::cmdSave_Click() {
-  const std::string caller = controls::Caption(lblStoreCallingProcedure);
-  for (const Caller& known : kCallers) {
-    if (caller == known.name && known.procedure != nullptr) (this->*known.procedure)();
+  switch (shell::Procedure_For(shell::kSaveFileCallers, controls::Caption(lblStoreCallingProcedure))) {
+    case shell::SaveFileProcedure::Save_Holiday_List:
+      Save_Holiday_List();
+      break;
+    case shell::SaveFileProcedure::Save_Schedule:  // writing a log comes with the Organizer
+    case shell::SaveFileProcedure::None:
+      break;
   }
 }
 

@@ -237,7 +237,7 @@ TEST_F(Form1Test, TheButtonsAndMenuCarryTheirCaptionsAndShortcuts) {
 TEST_F(Form1Test, OptionsTellsThatTheFeatureIsNotAvailable) {
   Start_Program();
   machine().Answer_Next(platform::vbOK, "Orrivane");
-  Menu(main(), "mnuOptions")->trigger();
+  Trigger(main(), "mnuOptions");
   ASSERT_EQ(machine().Messages().size(), 1u);
   EXPECT_EQ(machine().Messages()[0].text,
             "My apologies for that.\rThis feature was not yet available as of the release of this version.");
@@ -249,11 +249,11 @@ TEST_F(Form1Test, F4SwapsTheWindowsAndKeepsTheMonth) {
   machine().Set_Now(2024, 3, 15);
   Start_Program();
   Click(large().cmdNextMonth);
-  Menu(large(), "mnuSmallWindow")->trigger();
+  Press_Keys(large(), QKeySequence(Qt::Key_F4));
   EXPECT_TRUE(main().isVisible());
   EXPECT_FALSE(large().isVisible());
   EXPECT_EQ(Label(main(), "lblMonthYear"), "April 2024");
-  Menu(main(), "mnuLargeWindow")->trigger();
+  Press_Keys(main(), QKeySequence(Qt::Key_F4));
   EXPECT_TRUE(large().isVisible());
   EXPECT_FALSE(main().isVisible());
   EXPECT_EQ(Cell(large(), 1), "1");
@@ -262,7 +262,7 @@ TEST_F(Form1Test, F4SwapsTheWindowsAndKeepsTheMonth) {
 TEST_F(Form1Test, MinimiseToTheTaskbar) {
   Start_Program();
   main().show();
-  Menu(main(), "mnuMinimizeToTaskbar")->trigger();
+  Trigger(main(), "mnuMinimizeToTaskbar");
   EXPECT_TRUE(main().isMinimized());
 }
 
@@ -294,9 +294,9 @@ TEST_F(Form1Test, ExitAnsweredYesRemovesTheWorkingFilesAndEnds) {
 
 TEST_F(Form1Test, EveryWayOutAsksFirst) {
   Start_Program();
-  for (QAction* exit : {Menu(main(), "mnuExit"), Menu(large(), "mnuExit")}) {
+  for (QWidget* window : {static_cast<QWidget*>(&main()), static_cast<QWidget*>(&large())}) {
     machine().Answer_Next(platform::vbNo, "Confirm");
-    exit->trigger();
+    Trigger(*window, "mnuExit");
   }
   machine().Answer_Next(platform::vbNo, "Confirm");
   Click(large().cmdExit);

@@ -32,7 +32,7 @@ class frmFindADateTest : public WindowTest {
     // this window from the menu of the large calendar, the one on show.
     Window<Form1>().show();
     Process_Events();
-    Window<frmLargeCalendar>().menu->Action("mnuFindADatesWeekday")->trigger();
+    Trigger(Window<frmLargeCalendar>(), "mnuFindADatesWeekday");
     Process_Events();
     ASSERT_TRUE(window().isVisible());
   }

@@ -1,7 +1,6 @@
 // The large calendar: the lists of a member's tasks over the day cells, read from the log.
 #include "calendar/calendar_window_test.h"
-#include "core/sequential_file.h"
-#include "organizer/schedule_record.h"
+#include "organizer/log_file.h"
 
 namespace orrivane {
 namespace {
@@ -25,8 +24,7 @@ class frmLargeCalendarTest : public CalendarWindowTest {
     record.Start_Hour = hour;
     record.Start_Minute = "00";
     record.Person_Name = member;
-    SequentialWriter log("Schedule.tmp", SequentialWriter::Mode::Append);
-    organizer::Schedule_File("Write", log, record);
+    organizer::Append_Record("Schedule.tmp", record);
   }
   void Add_Member(const std::string& member) { organizer::Generate_Person_Marker_Record("Schedule.tmp", member); }
 

@@ -33,7 +33,7 @@ class frmSelectMonthTest : public WindowTest {
 
   // The user opens the window from the menu of the large calendar, the one on show.
   void Open() {
-    Window<frmLargeCalendar>().menu->Action("mnuSelect")->trigger();
+    Trigger(Window<frmLargeCalendar>(), "mnuSelect");
     Process_Events();
     ASSERT_TRUE(window().isVisible());
   }

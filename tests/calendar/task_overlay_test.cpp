@@ -2,6 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/runtime_failure.h"
+#include "core/temp_folder.h"
+#include "organizer/log_file.h"
+#include "support/failure_of.h"
+
 namespace orrivane::calendar {
 namespace {
 
@@ -47,6 +56,67 @@ TEST(TaskOverlay, AMonthStartingOnASundayTakesPriorDaysFromThe8thAmongItsOwnDays
 }
 
 TEST(TaskOverlay, ItemTellsHourNameAndNumber) { EXPECT_EQ(Task_Item("14", "Dentist", "1"), "14, Dentist, #1"); }
+
+// ---- The tasks of a member, read from the log ------------------------------------------------
+
+organizer::ScheduleRecord Task_Of(const Value& number, const std::string& member, const std::string& month, int date,
+                                  int year, const std::string& name = "Dentist") {
+  organizer::ScheduleRecord record;
+  record.Record_Number = number;
+  record.Task_Name = name;
+  record.Start_Month = month;
+  record.Start_Date = date;
+  record.Start_Century = year / 100;
+  record.Start_Year = year % 100;
+  record.Start_Hour = "14";
+  record.Person_Name = member;
+  return record;
+}
+
+std::vector<std::pair<int, std::string>> Shown(const std::string& log, const std::string& member) {
+  std::vector<std::pair<int, std::string>> shown;
+  Show_Tasks_On_Grid(log, March2024(), member,
+                     [&](const TaskOnGrid& task) { shown.emplace_back(task.cell, task.item); });
+  return shown;
+}
+
+TEST(TaskOverlay, ShowsTheTasksOfTheChosenMemberInLogOrder) {
+  testing::TempFolder folder;
+  const std::string log = folder.file("Schedule.tmp");
+  organizer::Generate_Person_Marker_Record(log, "Anna");
+  for (const organizer::ScheduleRecord& record :
+       {Task_Of(1, "Anna", "March", 14, 2024), Task_Of(2, "Ben", "March", 14, 2024),
+        Task_Of(3, "Anna", "February", 29, 2024, "Gym"), Task_Of(4, "Anna", "March", 14, 2024, "Gym"),
+        Task_Of(5, "Anna", "May", 1, 2024)}) {
+    organizer::Append_Record(log, record);
+  }
+  EXPECT_EQ(Shown(log, "Anna"), (std::vector<std::pair<int, std::string>>{
+                                    {18, "14, Dentist, #1"}, {4, "14, Gym, #3"}, {18, "14, Gym, #4"}}));
+  EXPECT_EQ(Shown(log, "Ben"), (std::vector<std::pair<int, std::string>>{{18, "14, Dentist, #2"}}));
+  EXPECT_TRUE(Shown(log, "anna").empty());
+}
+
+TEST(TaskOverlay, RecordsNumberedBelowZeroAreNotShown) {
+  testing::TempFolder folder;
+  const std::string log = folder.file("Schedule.tmp");
+  organizer::Append_Record(log, Task_Of(-1, "Anna", "March", 14, 2024));
+  organizer::Append_Record(log, Task_Of(-2, "Anna", "March", 15, 2024));
+  organizer::Append_Record(log, Task_Of(0, "Anna", "March", 16, 2024));
+  EXPECT_EQ(Shown(log, "Anna"), (std::vector<std::pair<int, std::string>>{{20, "14, Dentist, #0"}}));
+}
+
+TEST(TaskOverlay, ATruncatedLogFailsAfterShowingTheTasksBeforeIt) {
+  testing::TempFolder folder;
+  const std::string log = folder.file("Schedule.tmp");
+  organizer::Append_Record(log, Task_Of(1, "Anna", "March", 14, 2024));
+  testing::Write_Bytes(log, testing::Read_Bytes(log) + "2\r\n");
+  std::vector<int> cells;
+  EXPECT_EQ(testing::Failure_Of([&] {
+              Show_Tasks_On_Grid(log, March2024(), "Anna", [&](const TaskOnGrid& task) { cells.push_back(task.cell); });
+            }),
+            kInputPastEndOfFile);
+  EXPECT_EQ(cells, std::vector<int>{18});
+}
 
 }  // namespace
 }  // namespace orrivane::calendar

@@ -48,7 +48,7 @@ class frmFindDateDifferenceTest : public testing::CalendarWindowTest {
   }
 
   void Open_From(QWidget& calendar) {
-    Menu(calendar, "mnuFindTimeLengthBetweenDates")->trigger();
+    Trigger(calendar, "mnuFindTimeLengthBetweenDates");
     Process_Events();
     ASSERT_TRUE(window().isVisible());
   }

@@ -20,7 +20,7 @@ class FindAHolidayTest : public CalendarWindowTest {
   // Starts the program and opens the window through the large calendar's menu.
   void Open_Window() {
     Start_Program();
-    Menu(large(), "mnuFindHolidayDates")->trigger();
+    Trigger(large(), "mnuFindHolidayDates");
     Process_Events();
   }
 

@@ -112,7 +112,7 @@ TEST_F(HolidayCellsTest, TodaysDateDrawnByCalendarrShowsItsHoliday) {
   EXPECT_EQ(Holiday(9), "Election Day, U.S.");
   Show_Month("May", "2003");
   machine().Set_Now(2003, 6, 8);
-  Menu(large(), "mnuTodaysDates")->trigger();
+  Trigger(large(), "mnuTodaysDates");
   EXPECT_EQ(Holiday(Cell_Of(8)), "Day of Pentecost");
   EXPECT_EQ(Holiday(Cell_Of(15)), "Father's Day");
 }

@@ -265,7 +265,7 @@ TEST(HolidayRules, AYearAbove100100YieldsNothingInAnyMode) {
             "The year boxes may contain only numeric values\rfrom 1582 to 100100.");
 
   Holiday_Table_Collector table;
-  EXPECT_EQ(Display_All_Holidays_For_Selected_Year(100101, kCalendarCaller, table), 0);
+  EXPECT_EQ(Display_All_Holidays_For_Selected_Year(100101, kCalendarHolidayTableCaller, table), 0);
   EXPECT_TRUE(table.entries.empty());
 }
 
@@ -379,7 +379,7 @@ TEST(HolidayValidation, MessagesAreWantedOnlyByTheWindowInByHolidayMode) {
   Holiday_List_Collector list;
   Value to = 1500;
   EXPECT_FALSE(Display_Holiday_II("Easter", 1500, to, kFindAHolidayCaller, {false, false}, list).message_wanted);
-  EXPECT_FALSE(Display_Holiday_II("Easter", 1500, to, kCalendarCaller, {true, false}, list).message_wanted);
+  EXPECT_FALSE(Display_Holiday_II("Easter", 1500, to, kCalendarHolidayTableCaller, {true, false}, list).message_wanted);
   EXPECT_FALSE(Display_Holiday_II("Easter", 1500, to, "frmFindAHoliday", {true, false}, list).message_wanted);
   EXPECT_TRUE(list.lines.empty());
 }
@@ -413,7 +413,8 @@ TEST(HolidayToYear, WithARangeTheLastYearStands) {
 TEST(HolidayToYear, OtherCallersKeepTheirLastYear) {
   Holiday_Table_Collector table;
   Value to;
-  const Holiday_Answer answer = Display_Holiday_II("Easter", 2003, to, kCalendarCaller, {true, false}, table);
+  const Holiday_Answer answer =
+      Display_Holiday_II("Easter", 2003, to, kCalendarHolidayTableCaller, {true, false}, table);
   EXPECT_TRUE(to.is_empty());
   EXPECT_EQ(answer.error_code, kInvalidYear);  // an empty last year is below every first year
   EXPECT_TRUE(table.entries.empty());
@@ -456,7 +457,7 @@ TEST(HolidayDelivery, ALineOfAnyDateGivenIsMadeWithoutHarm) {
 TEST(HolidayDelivery, TheCalendarGetsNameMonthNameAndDate) {
   Holiday_Table_Collector table;
   Holiday_List_Collector list;
-  EXPECT_EQ(Display_All_Holidays_For_Selected_Year(2003, kCalendarCaller, table), 25);
+  EXPECT_EQ(Display_All_Holidays_For_Selected_Year(2003, kCalendarHolidayTableCaller, table), 25);
   ASSERT_EQ(table.entries.size(), 25u);
   EXPECT_EQ(table.entries[9].name, "Easter");
   EXPECT_EQ(table.entries[9].month_name, "April");
@@ -465,7 +466,7 @@ TEST(HolidayDelivery, TheCalendarGetsNameMonthNameAndDate) {
   EXPECT_EQ(table.entries[19].month_name, "November");
   EXPECT_EQ(table.entries[19].date, 4);
   Value to = 2003;
-  Display_Holiday_II("Easter", 2003, to, kCalendarCaller, {}, list);
+  Display_Holiday_II("Easter", 2003, to, kCalendarHolidayTableCaller, {}, list);
   EXPECT_TRUE(list.lines.empty());  // the calendar's caller text selects the table alone
 }
 
@@ -498,8 +499,8 @@ TEST(HolidayDelivery, AnUnknownCallerSelectsNobody) {
 TEST(HolidayDelivery, TheCalendarTableTakesTwoYearsInTheKeeper) {
   Holiday_Data_Keeper keeper;
   Holiday_Keeper_Receiver receiver(keeper);
-  Display_All_Holidays_For_Selected_Year(2003, kCalendarCaller, receiver);
-  Display_All_Holidays_For_Selected_Year(2002, kCalendarCaller, receiver);
+  Display_All_Holidays_For_Selected_Year(2003, kCalendarHolidayTableCaller, receiver);
+  Display_All_Holidays_For_Selected_Year(2002, kCalendarHolidayTableCaller, receiver);
   EXPECT_EQ(keeper.Store_Holiday_Data_For_Year("Holiday Name", 0, "View"), Value("New Years Day"));
   EXPECT_EQ(keeper.Store_Holiday_Data_For_Year("Holiday Month", 23, "View"), Value("December"));
   EXPECT_EQ(keeper.Store_Holiday_Data_For_Year("Holiday Date", 23, "View"), Value(25));

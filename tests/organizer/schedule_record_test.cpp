@@ -2,126 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "core/runtime_failure.h"
-#include "core/temp_folder.h"
-#include "support/failure_of.h"
+#include "organizer/log_file.h"
+#include "organizer/log_samples.h"
 
 namespace orrivane::organizer {
 namespace {
 
-using testing::Read_Bytes;
-using testing::TempFolder;
-using testing::Write_Bytes;
-
-using orrivane::testing::Failure_Of;
-
-std::string Kind(const Value& v) { return v.is_text() ? "text" : v.is_number() ? "number" : "empty"; }
-
-// Field by field, of the same kind and the same text: "05" is not 5 here.
-::testing::AssertionResult Same_Record(const ScheduleRecord& a, const ScheduleRecord& b) {
-  const auto fa = Fields_In_File_Order(a);
-  const auto fb = Fields_In_File_Order(b);
-  for (std::size_t i = 0; i < fa.size(); ++i) {
-    if (Kind(*fa[i]) != Kind(*fb[i]) || fa[i]->text() != fb[i]->text()) {
-      return ::testing::AssertionFailure() << "field " << i + 1 << ": " << Kind(*fa[i]) << " " << fa[i]->text()
-                                           << " against " << Kind(*fb[i]) << " " << fb[i]->text();
-    }
-  }
-  return ::testing::AssertionSuccess();
-}
-
-// Anna's dentist appointment at 14:30 on March 5, 2001, with one reminder a day before.
-ScheduleRecord Dentist_Task() {
-  ScheduleRecord r;
-  r.Record_Number = 1;
-  r.Task_Name = "Dentist";
-  r.Task_Description = "Checkup";
-  r.Task_Comments = "Bring X-rays";
-  r.Start_Month = "March";
-  r.Start_Date = "05";
-  r.Start_Century = 20;
-  r.Start_Year = 1;
-  r.Start_Hour = "14";
-  r.Start_Minute = "30";
-  r.Time_Range_Flag = 0;
-  r.Finish_Month = "March";
-  r.Finish_Date = "05";
-  r.Finish_Century = 20;
-  r.Finish_Year = 1;
-  r.Finish_Hour = "14";
-  r.Finish_Minute = "30";
-  r.Color_Code = 16711680;
-  r.Person_Name = "Anna";
-  r.Reminder_Status = 1;
-  r.Date_String[0] = "March 4, 2001";
-  r.Time_String[0] = "14:30";
-  r.Date_String[1] = "March 4, 2001";
-  r.Time_String[1] = "14:30";
-  r.Reminder_Interval = 1;
-  r.Interval_Days = 0;
-  r.Interval_Hours = 0;
-  r.Interval_Minutes = 0;
-  return r;
-}
-
-ScheduleRecord Task(int number, const std::string& person, int reminder_status) {
-  ScheduleRecord r = Dentist_Task();
-  r.Record_Number = number;
-  r.Task_Name = "Task " + std::to_string(number);
-  r.Person_Name = person;
-  r.Reminder_Status = reminder_status;
-  return r;
-}
-
-std::string Repeated(const std::string& line, int times) {
-  std::string out;
-  for (int i = 0; i < times; ++i) out += line;
-  return out;
-}
-
-const std::string kDentistBytes =
-    "1\r\n"
-    "\"Dentist\",\"Checkup\",\"Bring X-rays\",\"March\"\r\n"
-    "\"05\",20,1,\"14\",\"30\"\r\n"
-    "0\r\n"
-    "\"March\",\"05\",20,1,\"14\",\"30\"\r\n"
-    "16711680,\"Anna\"\r\n"
-    "1,\"March 4, 2001\",\"14:30\",\"March 4, 2001\",\"14:30\"\r\n"
-    "1,0,0,0\r\n";
-
-const std::string kBenMarker28Lines = Repeated("-1\r\n", 18) + "\"Ben\"\r\n" + Repeated("-1\r\n", 9);
-
-const std::string kBenMarker8Lines =
-    "-1\r\n"
-    "-1,-1,-1,-1\r\n"
-    "-1,-1,-1,-1,-1\r\n"
-    "-1\r\n"
-    "-1,-1,-1,-1,-1,-1\r\n"
-    "-1,\"Ben\"\r\n"
-    "-1,-1,-1,-1,-1\r\n"
-    "-1,-1,-1,-1\r\n";
-
-// Writes records in the 8-line arrangement.
-void Write_Log(const std::string& path, const std::vector<ScheduleRecord>& records) {
-  SequentialWriter file(path);
-  for (const ScheduleRecord& record : records) Schedule_File("Write", file, record);
-}
-
-std::vector<ScheduleRecord> Read_Log(const std::string& path) {
-  SequentialReader file(path);
-  std::vector<ScheduleRecord> records;
-  while (!file.Eof()) {
-    ScheduleRecord record;
-    Schedule_File("Input", file, record);
-    records.push_back(record);
-  }
-  return records;
-}
+using namespace samples;
 
 // ---- The record and its fields ------------------------------------------------------------
 
@@ -303,23 +195,6 @@ TEST(Make_Person_Marker, HoldsTheNameAndMinusOneEverywhereElse) {
   EXPECT_EQ(minus_ones, 27);
 }
 
-TEST(Generate_Person_Marker_Record, AppendsToTheLog) {
-  TempFolder folder;
-  const std::string path = folder.file("Schedule.tmp");
-  Write_Bytes(path, kDentistBytes);
-  Generate_Person_Marker_Record(path, "Ben");
-  Generate_Person_Marker_Record(path, "Cleo");
-  EXPECT_EQ(Read_Bytes(path),
-            kDentistBytes + kBenMarker28Lines + Repeated("-1\r\n", 18) + "\"Cleo\"\r\n" + Repeated("-1\r\n", 9));
-}
-
-TEST(Generate_Person_Marker_Record, CreatesAMissingLog) {
-  TempFolder folder;
-  const std::string path = folder.file("Schedule.tmp");
-  Generate_Person_Marker_Record(path, "Ben");
-  EXPECT_EQ(Read_Bytes(path), kBenMarker28Lines);
-}
-
 TEST(Write_Person_Marker_28_Lines, WritesOneValueALine) {
   TempFolder folder;
   const std::string path = folder.file("out.tmp");
@@ -328,162 +203,6 @@ TEST(Write_Person_Marker_28_Lines, WritesOneValueALine) {
     Write_Person_Marker_28_Lines(file, "Ben");
   }
   EXPECT_EQ(Read_Bytes(path), kBenMarker28Lines);
-}
-
-// ---- Record numbers -------------------------------------------------------------------------
-
-class Generate_Record_Number_Test : public ::testing::Test {
- protected:
-  Value Next_Number(const std::vector<ScheduleRecord>& log) {
-    Write_Log(path_, log);
-    return Generate_Record_Number(path_);
-  }
-
-  TempFolder folder_;
-  std::string path_ = folder_.file("Schedule.tmp");
-};
-
-TEST_F(Generate_Record_Number_Test, AnEmptyLogGivesOne) {
-  const Value number = Next_Number({});
-  EXPECT_TRUE(number.is_number());
-  EXPECT_EQ(number.number(), 1);
-}
-
-TEST_F(Generate_Record_Number_Test, TasksOneToThreeGiveFour) {
-  EXPECT_EQ(Next_Number({Task(1, "Anna", 0), Task(2, "Anna", 0), Task(3, "Ben", 1)}).number(), 4);
-}
-
-TEST_F(Generate_Record_Number_Test, DeletingTheLastTaskGivesItsNumberAgain) {
-  EXPECT_EQ(Next_Number({Task(1, "Anna", 0), Task(2, "Anna", 0)}).number(), 3);
-}
-
-TEST_F(Generate_Record_Number_Test, DeletingAnEarlierTaskDoesNotGiveItsNumberAgain) {
-  EXPECT_EQ(Next_Number({Task(1, "Anna", 0), Task(3, "Anna", 0)}).number(), 4);
-}
-
-TEST_F(Generate_Record_Number_Test, ALogOfOnlyMarkersGivesOne) {
-  EXPECT_EQ(Next_Number({Make_Person_Marker("Anna"), Make_Person_Marker("Ben")}).number(), 1);
-}
-
-TEST_F(Generate_Record_Number_Test, MarkersInEitherArrangementNeverCount) {
-  Write_Bytes(path_, kBenMarker28Lines + kDentistBytes + kBenMarker8Lines + kBenMarker28Lines);
-  EXPECT_EQ(Generate_Record_Number(path_).number(), 2);
-}
-
-TEST_F(Generate_Record_Number_Test, TakesTheHighestNumberWhereverItStands) {
-  EXPECT_EQ(Next_Number({Task(7, "Anna", 0), Task(2, "Ben", 0), Make_Person_Marker("Cleo")}).number(), 8);
-}
-
-TEST_F(Generate_Record_Number_Test, ATaskNumberedZeroGivesOne) { EXPECT_EQ(Next_Number({Task(0, "Anna", 0)}).number(), 1); }
-
-TEST_F(Generate_Record_Number_Test, ANumberStoredAsTextCountsAsItsNumber) {
-  ScheduleRecord quoted = Task(5, "Anna", 0);
-  quoted.Record_Number = "5";
-  EXPECT_EQ(Next_Number({Task(3, "Anna", 0), quoted}).number(), 6);
-}
-
-TEST_F(Generate_Record_Number_Test, AMissingLogIsFileNotFound) {
-  EXPECT_EQ(Failure_Of([&] { Generate_Record_Number(folder_.file("none.tmp")); }), kFileNotFound);
-}
-
-TEST_F(Generate_Record_Number_Test, ATruncatedLogIsInputPastEndOfFile) {
-  Write_Bytes(path_, kDentistBytes + "-1\r\n-1\r\n");
-  EXPECT_EQ(Failure_Of([&] { Generate_Record_Number(path_); }), kInputPastEndOfFile);
-}
-
-// ---- Copying a log ----------------------------------------------------------------------------
-
-TEST(Copy_Log, CopiesEveryRecordAndNormalisesMarkersToEightLines) {
-  TempFolder folder;
-  const std::string working = folder.file("Schedule.tmp");
-  const std::string saved = folder.file("week.sdl");
-  Write_Bytes(working, kDentistBytes + kBenMarker28Lines);
-  Copy_Log(working, saved);
-  EXPECT_EQ(Read_Bytes(saved), kDentistBytes + kBenMarker8Lines);
-}
-
-TEST(Copy_Log, ASavedAndReopenedLogYieldsExactlyTheRecordsWithRemindersOnInLogOrder) {
-  TempFolder folder;
-  const std::string working = folder.file("Schedule.tmp");
-  const std::string reminders = folder.file("TRemin.tmp");
-  const std::string saved = folder.file("week.sdl");
-  const std::vector<ScheduleRecord> log{Make_Person_Marker("Anna"), Task(1, "Anna", 1), Task(2, "Anna", 0),
-                                        Make_Person_Marker("Ben"),  Task(3, "Ben", 1),  Task(4, "Ben", 0),
-                                        Task(5, "Anna", 1)};
-  {
-    SequentialWriter file(working);
-    Write_Person_Marker_28_Lines(file, "Anna");
-    for (std::size_t i = 1; i < log.size(); ++i) Schedule_File("Write", file, log[i]);
-  }
-  Write_Bytes(reminders, "stale\r\n");
-
-  Copy_Log(working, saved);                  // Save Log As
-  Write_Bytes(working, "other log\r\n");      // the working copy moves on
-  Copy_Log(saved, working, reminders);       // Open
-
-  const auto reopened = Read_Log(working);
-  ASSERT_EQ(reopened.size(), log.size());
-  for (std::size_t i = 0; i < log.size(); ++i) EXPECT_TRUE(Same_Record(reopened[i], log[i])) << "record " << i;
-  const auto with_reminders = Read_Log(reminders);
-  ASSERT_EQ(with_reminders.size(), 3u);
-  EXPECT_TRUE(Same_Record(with_reminders[0], log[1]));
-  EXPECT_TRUE(Same_Record(with_reminders[1], log[4]));
-  EXPECT_TRUE(Same_Record(with_reminders[2], log[6]));
-}
-
-TEST(Copy_Log, WritesTheReminderRecordsInTheSameFormat) {
-  TempFolder folder;
-  const std::string reminders = folder.file("TRemin.tmp");
-  Write_Bytes(folder.file("week.sdl"), kBenMarker28Lines + kDentistBytes);
-  Copy_Log(folder.file("week.sdl"), folder.file("Schedule.tmp"), reminders);
-  EXPECT_EQ(Read_Bytes(reminders), kDentistBytes);
-}
-
-TEST(Copy_Log, AReminderFileWithNothingToHoldIsLeftEmpty) {
-  TempFolder folder;
-  const std::string reminders = folder.file("TRemin.tmp");
-  Write_Bytes(reminders, kDentistBytes);
-  Write_Log(folder.file("week.sdl"), {Task(1, "Anna", 0), Make_Person_Marker("Ben")});
-  Copy_Log(folder.file("week.sdl"), folder.file("Schedule.tmp"), reminders);
-  EXPECT_EQ(Read_Bytes(reminders), "");
-}
-
-TEST(Copy_Log, OnlyAStatusOfOneCountsAsAReminder) {
-  TempFolder folder;
-  ScheduleRecord quoted = Task(4, "Ben", 0);
-  quoted.Reminder_Status = "1";  // loose: the text "1" is the number 1
-  Write_Log(folder.file("week.sdl"), {Task(1, "Anna", 2), Task(2, "Anna", -1), Task(3, "Anna", 0), quoted});
-  Copy_Log(folder.file("week.sdl"), folder.file("Schedule.tmp"), folder.file("TRemin.tmp"));
-  const auto with_reminders = Read_Log(folder.file("TRemin.tmp"));
-  ASSERT_EQ(with_reminders.size(), 1u);
-  EXPECT_TRUE(Same_Record(with_reminders[0], quoted));
-}
-
-TEST(Copy_Log, WithoutAReminderFileWritesNoneAndAnEmptyLogCopiesAsEmpty) {
-  TempFolder folder;
-  Write_Bytes(folder.file("Schedule.tmp"), "");
-  Copy_Log(folder.file("Schedule.tmp"), folder.file("week.sdl"));
-  EXPECT_EQ(Read_Bytes(folder.file("week.sdl")), "");
-  EXPECT_FALSE(std::filesystem::exists(folder.file("TRemin.tmp")));
-}
-
-TEST(Copy_Log, ATruncatedLogStopsWithInputPastEndOfFileKeepingTheRecordsCopiedSoFar) {
-  TempFolder folder;
-  const std::string truncated = kDentistBytes + kBenMarker28Lines.substr(0, kBenMarker28Lines.find("\"Ben\""));
-  Write_Bytes(folder.file("week.sdl"), truncated);
-  EXPECT_EQ(Failure_Of([&] {
-              Copy_Log(folder.file("week.sdl"), folder.file("Schedule.tmp"), folder.file("TRemin.tmp"));
-            }),
-            kInputPastEndOfFile);
-  EXPECT_EQ(Read_Bytes(folder.file("Schedule.tmp")), kDentistBytes);
-  EXPECT_EQ(Read_Bytes(folder.file("TRemin.tmp")), kDentistBytes);
-}
-
-TEST(Copy_Log, AMissingSourceIsFileNotFoundAndLeavesTheTargetAlone) {
-  TempFolder folder;
-  Write_Bytes(folder.file("Schedule.tmp"), kDentistBytes);
-  EXPECT_EQ(Failure_Of([&] { Copy_Log(folder.file("none.sdl"), folder.file("Schedule.tmp")); }), kFileNotFound);
-  EXPECT_EQ(Read_Bytes(folder.file("Schedule.tmp")), kDentistBytes);
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ class frmOpenFileTest : public FindAHolidayTest {
       inside();
       if (open().isVisible()) Click(open().cmdCancel);
     });
-    Menu(find(), "mnuOpenFile")->trigger();
+    Trigger(find(), "mnuOpenFile");
   }
 };
 

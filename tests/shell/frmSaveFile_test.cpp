@@ -2,14 +2,19 @@
 // name, the name check and its message, the added extension, the overwrite question, and a
 // saved list read back byte for byte.
 #include <QDir>
+#include <algorithm>
 
 #include "holidays/find_a_holiday_window_test.h"
 #include "holidays/holiday_list_file.h"
+#include "support/golden.h"
 
 namespace orrivane {
 namespace {
 
 using testing::FindAHolidayTest;
+using testing::Golden_Case_Name;
+using testing::Golden_Cases;
+using testing::GoldenCase;
 
 class frmSaveFileTest : public FindAHolidayTest {
  protected:
@@ -66,26 +71,54 @@ TEST_F(frmSaveFileTest, OpenedTheFirstTimeItIsBlankAndSaveDoesNothing) {
   EXPECT_TRUE(File_Present("Holidays.dte"));
 }
 
-TEST_F(frmSaveFileTest, ASavedListStandsByteForByteAndReadsBackTheSame) {
+// Each case folder of tests/data/golden/saved_holiday_list holds requests.txt, the requests made
+// one a line ("Display All By Year|2003", "Easter|1583", or with a last year "Easter|2000|2010"),
+// and expected.dte, the bytes of the list saved after them.
+class SavedHolidayListTest : public frmSaveFileTest, public ::testing::WithParamInterface<GoldenCase> {
+ protected:
+  void Ask(const std::string& request) {
+    const QStringList parts = QString::fromStdString(request).split('|');
+    ASSERT_GE(parts.size(), 2) << request;
+    const QString last_year = parts.size() > 2 ? parts[2] : QString();
+    if (parts[0] == find().optDisplayAllByYear->text()) {
+      Ask_All_By_Year(parts[1], last_year);
+    } else {
+      Ask_By_Holiday(parts[0], parts[1], last_year);
+    }
+  }
+};
+
+TEST_P(SavedHolidayListTest, ASavedListStandsByteForByteAndReadsBackTheSame) {
   Open_Window();
-  Ask_All_By_Year("2003");
-  Ask_By_Holiday("Easter", "1583");
+  for (const std::string& request : GetParam().Lines("requests.txt")) Ask(request);
   Open_And_Cancel_Once();
   const std::vector<std::string> before = Lines();
   std::string expected;
   for (const std::string& line : before) expected += "\"" + line + "\"\r\n";
   When_Modal([this] { Click(save().cmdSave); });
-  Menu(find(), "mnuSaveList")->trigger();  // the menu entry opens the same window as the button
+  Trigger(find(), "mnuSaveList");  // the menu entry opens the same window as the button
   EXPECT_EQ(Read_File("Holidays.dte"), expected);
-  EXPECT_NE(expected.find("\"Election Day, U.S., Tuesday, November 4, 2003\"\r\n"), std::string::npos);
+  EXPECT_EQ(Read_File("Holidays.dte"), GetParam().Expected());
 
   Click(find().cmdClear);
   When_Modal([this] {
     Window<frmOpenFile>().filFileOpen->setCurrentRow(0);
     Click(Window<frmOpenFile>().cmdOpen);
   });
-  Menu(find(), "mnuOpenFile")->trigger();
+  Trigger(find(), "mnuOpenFile");
   EXPECT_EQ(Lines(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(Golden, SavedHolidayListTest, ::testing::ValuesIn(Golden_Cases("saved_holiday_list")),
+                         Golden_Case_Name);
+
+TEST(SavedHolidayListGolden, TheListOf2003KeepsElectionDayWholeWithItsCommas) {
+  const auto cases = Golden_Cases("saved_holiday_list");
+  const auto of_2003 = std::find_if(cases.begin(), cases.end(), [](const GoldenCase& golden) {
+    return golden.name == "all_of_2003_then_easter_1583";
+  });
+  ASSERT_NE(of_2003, cases.end());
+  EXPECT_NE(of_2003->Expected().find("\"Election Day, U.S., Tuesday, November 4, 2003\"\r\n"), std::string::npos);
 }
 
 TEST_F(frmSaveFileTest, ANameWithoutTheExtensionGetsItAndOneWithItGetsNothingMore) {

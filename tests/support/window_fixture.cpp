@@ -1,11 +1,16 @@
 #include "support/window_fixture.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 #include "platform/qt_platform.h"
 #if defined(__SANITIZE_ADDRESS__)
@@ -39,27 +44,94 @@ void Civil_From_Days(long long z, long long& y, int& m, int& d) {
   y = yoe + era * 400 + (m <= 2);
 }
 
+constexpr long long kMillisecondsPerDay = 86400 * 1000LL;
+
 long long Floor_Div(long long a, long long b) { return a / b - ((a % b != 0) && ((a < 0) != (b < 0))); }
+
+// A user reaches a menu entry when it is enabled and so is some menu it stands in, up to the
+// menu bar; an entry in no menu is reached by its shortcut alone.
+bool Reachable(const QAction& action) {
+  if (!action.isEnabled()) return false;
+  const QObjectList places = action.associatedObjects();
+  return places.isEmpty() || std::any_of(places.begin(), places.end(), [](const QObject* place) {
+           if (const auto* menu = qobject_cast<const QMenu*>(place)) return Reachable(*menu->menuAction());
+           if (const auto* widget = qobject_cast<const QWidget*>(place)) return widget->isEnabled();
+           return true;
+         });
+}
 
 }  // namespace
 
 void FakePlatform::Set_Now(int year, int month, int day, int hour, int minute, int second) {
-  now_ = Days_From_Civil(year, month, day) * 86400 + hour * 3600 + minute * 60 + second;
+  Move_Clock_To(Days_From_Civil(year, month, day) * kMillisecondsPerDay + ((hour * 60LL + minute) * 60 + second) * 1000);
 }
 
-void FakePlatform::Advance_Seconds(long long seconds) { now_ += seconds; }
+void FakePlatform::Advance_Milliseconds(long long milliseconds) { Move_Clock_To(now_ + milliseconds); }
 
-std::string FakePlatform::System_Date() {
+platform::ClockReading FakePlatform::Read_Clock() {
+  ++readings_;
   long long y;
   int m, d;
-  Civil_From_Days(Floor_Div(now_, 86400), y, m, d);
-  return platform::Format_System_Date(static_cast<int>(y), m, d);
+  const long long day = Floor_Div(now_, kMillisecondsPerDay);
+  Civil_From_Days(day, y, m, d);
+  const long long s = (now_ - day * kMillisecondsPerDay) / 1000;
+  platform::ClockReading reading{
+      platform::Format_System_Date(static_cast<int>(y), m, d),
+      platform::Format_System_Time(static_cast<int>(s / 3600), static_cast<int>(s / 60 % 60), static_cast<int>(s % 60))};
+  if (step_per_reading_ != 0) Advance_Milliseconds(step_per_reading_);
+  return reading;
 }
 
-std::string FakePlatform::System_Time() {
-  const long long s = now_ - Floor_Div(now_, 86400) * 86400;
-  return platform::Format_System_Time(static_cast<int>(s / 3600), static_cast<int>(s / 60 % 60),
-                                      static_cast<int>(s % 60));
+platform::TimerId FakePlatform::Start_Timer(int interval_ms, std::function<void()> tick) {
+  platform::Require_Timer_Interval(interval_ms);
+  timers_[++last_timer_] = {interval_ms, now_ + interval_ms, std::make_shared<platform::TimerTick>(std::move(tick))};
+  return last_timer_;
+}
+
+void FakePlatform::Stop_Timer(platform::TimerId timer) { timers_.erase(timer); }
+
+void FakePlatform::Move_Clock_To(long long moment) {
+  if (moment < now_) {
+    // Back: each timer keeps the wait it had left, as the machine's timers do when its clock is
+    // set back.
+    const long long back = moment - now_;
+    for (auto& [id, timer] : timers_) timer.due += back;
+    if (moving_to_) *moving_to_ += back;
+    now_ = moment;
+    return;
+  }
+  if (moving_to_) {
+    // From inside a tick: the ticks still due run after it, in their order.
+    now_ = moment;
+    moving_to_ = std::max(*moving_to_, moment);
+    return;
+  }
+  Run_Ticks_Due_Until(moment);
+}
+
+void FakePlatform::Run_Ticks_Due_Until(long long moment) {
+  moving_to_ = moment;
+  struct Arrived {
+    FakePlatform& machine;
+    ~Arrived() {
+      machine.now_ = *machine.moving_to_;
+      machine.moving_to_.reset();
+    }
+  } arrived{*this};
+  while (Timer* next = Next_Due(*moving_to_)) {
+    now_ = next->due;
+    next->due += next->interval_ms;
+    const std::shared_ptr<platform::TimerTick> tick = next->tick;  // the tick may stop its timer
+    tick->Run();
+  }
+}
+
+FakePlatform::Timer* FakePlatform::Next_Due(long long moment) {
+  Timer* first = nullptr;
+  for (auto& [id, timer] : timers_) {
+    if (timer.due <= moment && (first == nullptr || timer.due < first->due)) first = &timer;
+  }
+  return first;
 }
 
 void FakePlatform::Answer_Next(int answer, std::optional<std::string> title) {
@@ -114,6 +186,50 @@ void FakePlatform::End_Process(int exit_code) {
   throw platform::ProcessEnded{exit_code};
 }
 
+// A When_Modal under way: it looks for the modal window at each turn of the event loop, runs
+// the action once one is open, and fails the test when none opens in time.
+class WindowTest::ModalWait {
+ public:
+  ModalWait(std::function<void()> action, std::chrono::milliseconds limit)
+      : action_(std::move(action)), limit_(limit), open_before_(QApplication::activeModalWidget()) {
+    since_.start();
+    QObject::connect(&poll_, &QTimer::timeout, &poll_, [this] { Look(); });
+    poll_.start(0);  // the first look at the first turn of the event loop, then every few ms
+  }
+
+  bool Done() const { return done_; }
+
+ private:
+  void Look() {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal != nullptr && modal != open_before_) {
+      Finish();
+      // Queued, so that the action runs from the modal window's own event loop and may itself
+      // wait for the next modal window, which replaces this one.
+      QMetaObject::invokeMethod(qApp, std::move(action_), Qt::QueuedConnection);
+    } else if (since_.elapsed() >= limit_.count()) {
+      Finish();
+      ADD_FAILURE() << "no modal window opened within " << limit_.count() << " ms";
+    } else {
+      poll_.setInterval(10);
+    }
+  }
+  void Finish() {
+    poll_.stop();
+    done_ = true;
+  }
+
+  std::function<void()> action_;
+  std::chrono::milliseconds limit_;
+  QWidget* open_before_;
+  QElapsedTimer since_;
+  QTimer poll_;
+  bool done_ = false;
+};
+
+WindowTest::WindowTest() = default;
+WindowTest::~WindowTest() = default;
+
 void WindowTest::SetUp() {
   folder_ = std::make_unique<QTemporaryDir>();
   ASSERT_TRUE(folder_->isValid());
@@ -124,6 +240,7 @@ void WindowTest::SetUp() {
 }
 
 void WindowTest::TearDown() {
+  Expect_No_Modal_Wait_Left("at the end of the test");
   Unload_All_Windows();
   Process_Events();
   EXPECT_EQ(machine_.Unanswered(), 0u) << "answers scripted for messages that never came";
@@ -177,7 +294,59 @@ void WindowTest::Type(QWidget* widget, const QString& text) {
   QTest::keyClicks(widget, text);
 }
 
-void WindowTest::When_Modal(std::function<void()> action) { QTimer::singleShot(0, qApp, std::move(action)); }
+bool WindowTest::Trigger(QWidget& window, const QString& name) {
+  if (auto* button = window.findChild<QAbstractButton*>(name)) {
+    if (!button->isEnabled()) {
+      ADD_FAILURE() << "the button " << name.toStdString() << " is disabled";
+      return false;
+    }
+    Click(button);
+    return true;
+  }
+  QAction* entry = window.findChild<QAction*>(name);
+  if (entry == nullptr) {
+    ADD_FAILURE() << "no menu entry or button named " << name.toStdString();
+    return false;
+  }
+  if (!Reachable(*entry)) {
+    ADD_FAILURE() << "the menu entry " << name.toStdString() << " is disabled";
+    return false;
+  }
+  entry->trigger();
+  return true;
+}
+
+void WindowTest::Press_Keys(const QKeySequence& keys) {
+  for (int i = 0; i < keys.count(); ++i) {
+    // Asked at each key: a key may move the focus.
+    QWidget* target = QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : QApplication::activeWindow();
+    if (target == nullptr) {
+      ADD_FAILURE() << "no window is active to take " << keys.toString().toStdString();
+      return;
+    }
+    QTest::keyClick(target, keys[i].key(), keys[i].keyboardModifiers());
+  }
+}
+
+void WindowTest::Press_Keys(QWidget& window, const QKeySequence& keys) {
+  ASSERT_TRUE(window.isVisible()) << "keys pressed to a hidden window";
+  window.raise();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window)) << "the window did not come to the front";
+  Press_Keys(keys);
+}
+
+void WindowTest::When_Modal(std::function<void()> action, std::chrono::milliseconds limit) {
+  Expect_No_Modal_Wait_Left("before the next When_Modal");
+  modal_wait_ = std::make_unique<ModalWait>(std::move(action), limit);
+}
+
+void WindowTest::Expect_No_Modal_Wait_Left(const char* when) {
+  if (modal_wait_ && !modal_wait_->Done()) {
+    ADD_FAILURE() << "a When_Modal was still waiting " << when << ": no modal window opened";
+  }
+  modal_wait_.reset();
+}
 
 void WindowTest::Process_Events() { QCoreApplication::processEvents(); }
 

@@ -1,15 +1,21 @@
 #pragma once
 // The harness of the window tests: the program runs in a fresh temporary current folder, with a
-// fixed clock the test can move, scripted answers to message boxes (every message shown is
-// recorded; one that was not expected fails the test), printed pages kept as images, beeps
-// counted and the end of the process recorded.
+// fixed clock the test can move (the program's timers tick as it moves), scripted answers to
+// message boxes (every message shown is recorded; one that was not expected fails the test),
+// printed pages kept as images, beeps counted and the end of the process recorded. The test
+// drives the windows as a user does: clicks, typing, key presses to the focused control, menu
+// entries and buttons that must be enabled to be used, and modal windows acted in while open.
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QKeySequence>
 #include <QTemporaryDir>
 #include <QWidget>
+#include <chrono>
 #include <deque>
 #include <functional>
+#include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,10 +39,18 @@ struct PrintJob {
 
 class FakePlatform : public platform::Platform {
  public:
-  // The clock. Months and days count from 1, the hour from 0 to 23.
+  // The clock. Months and days count from 1, the hour from 0 to 23. Moving it forward runs the
+  // ticks of the program's timers that fall due on the way, in order, each with the clock at
+  // its own moment; moving it back runs none, and every timer keeps the wait it had left.
   void Set_Now(int year, int month, int day, int hour = 12, int minute = 0, int second = 0);
-  void Advance_Seconds(long long seconds);
+  void Advance_Milliseconds(long long milliseconds);
+  void Advance_Seconds(long long seconds) { Advance_Milliseconds(seconds * 1000); }
   void Advance_Days(long long days) { Advance_Seconds(days * 86400); }
+  // Moves the clock on by `milliseconds` after each reading, as a real clock moves between two
+  // readings; 0 (the start) holds it still.
+  void Advance_On_Each_Reading(long long milliseconds) { step_per_reading_ = milliseconds; }
+  int Clock_Readings() const { return readings_; }
+  std::size_t Running_Timers() const { return timers_.size(); }
 
   // The answer to the next message box; with a title, the box must carry that title.
   void Answer_Next(int answer, std::optional<std::string> title = std::nullopt);
@@ -54,8 +68,9 @@ class FakePlatform : public platform::Platform {
   // Run at each yield (after the events waiting have been handled).
   void On_Yield(std::function<void()> action) { on_yield_ = std::move(action); }
 
-  std::string System_Date() override;
-  std::string System_Time() override;
+  platform::ClockReading Read_Clock() override;
+  platform::TimerId Start_Timer(int interval_ms, std::function<void()> tick) override;
+  void Stop_Timer(platform::TimerId timer) override;
   int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) override;
   void Print_Window(QWidget& window) override;
   void Print_Text(const std::vector<platform::TextPage>& pages) override;
@@ -70,7 +85,25 @@ class FakePlatform : public platform::Platform {
     int answer;
     std::optional<std::string> title;
   };
-  long long now_ = 0;  // seconds since 1 January 1970, proleptic Gregorian
+  struct Timer {
+    long long interval_ms;
+    long long due;  // the clock's moment of the next tick
+    std::shared_ptr<platform::TimerTick> tick;
+  };
+  void Move_Clock_To(long long moment);
+  void Run_Ticks_Due_Until(long long moment);
+  // The running timer whose next tick comes first, not later than `moment`; the one started
+  // first among ticks of the same moment.
+  Timer* Next_Due(long long moment);
+
+  long long now_ = 0;  // milliseconds since 1 January 1970, proleptic Gregorian
+  long long step_per_reading_ = 0;
+  int readings_ = 0;
+  std::map<platform::TimerId, Timer> timers_;
+  platform::TimerId last_timer_ = 0;
+  // While ticks run, the moment the clock is being moved to; a tick that moves the clock on
+  // pushes it further instead of running ticks itself.
+  std::optional<long long> moving_to_;
   std::deque<Expected> answers_;
   std::vector<ShownMessage> messages_;
   std::vector<PrintJob> jobs_;
@@ -84,6 +117,10 @@ class FakePlatform : public platform::Platform {
 };
 
 class WindowTest : public ::testing::Test {
+ public:
+  WindowTest();
+  ~WindowTest() override;
+
  protected:
   void SetUp() override;
   void TearDown() override;
@@ -106,21 +143,39 @@ class WindowTest : public ::testing::Test {
 
   // Clicks a button (or any widget) as the user does, through the event dispatch.
   void Click(QWidget* widget);
+  // Uses the menu entry or button of a window named `name` as the user does, and answers true;
+  // fails the test, and uses nothing, when there is none or the user could not reach it
+  // (disabled, or in a disabled menu).
+  bool Trigger(QWidget& window, const QString& name);
+  // Presses keys as the user does, to the control that has the focus (the active window when
+  // none has), so that shortcuts go through the window system's own dispatch. Each combination
+  // of the sequence ("Ctrl+D", "F4") is pressed and released in turn.
+  void Press_Keys(const QKeySequence& keys);
+  // Brings a window to the front, as the user does by clicking on its frame, and presses the
+  // keys there.
+  void Press_Keys(QWidget& window, const QKeySequence& keys);
   // Runs an action that ends the program. Ending unwinds through the window system's own
   // frames, which keep what they hold; a program that ends leaves that to the machine, so the
   // leak checker is told not to count it.
   void Until_The_End(const std::function<void()>& action);
   // Types into a text box after emptying it.
   void Type(QWidget* widget, const QString& text);
-  // Runs an action from the event loop once a modal window has opened.
-  void When_Modal(std::function<void()> action);
+  // Runs `action` from the event loop of the next modal window, once it is open: call it just
+  // before what opens the window. Fails the test when no modal window opens within `limit` of
+  // the event loop running, or before the next When_Modal or the end of the test.
+  void When_Modal(std::function<void()> action, std::chrono::milliseconds limit = std::chrono::seconds(5));
   // Lets queued events run.
   void Process_Events();
 
  private:
+  class ModalWait;
+  // Fails the test for a When_Modal whose window never opened, and forgets it.
+  void Expect_No_Modal_Wait_Left(const char* when);
+
   FakePlatform machine_;
   std::unique_ptr<QTemporaryDir> folder_;
   QString previous_folder_;
+  std::unique_ptr<ModalWait> modal_wait_;
 };
 
 }  // namespace orrivane::testing
