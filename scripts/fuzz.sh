@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Builds the fuzz targets of fuzz/ in fuzz-build/ (installing clang 14 and its fuzzer runtime
-# when missing) and runs each for SECONDS (default 60), one after another, on a working copy of
-# its seed corpus. Exits non-zero when any target has a finding: a crash, a sanitizer report, an
-# exception other than the program's RuntimeFailure, a broken rule, a timeout, a leak or too much
-# memory. What a finding left behind is in fuzz-build/findings/<target>/.
+# Builds the fuzz targets of fuzz/ in fuzz-build/ (installing the distribution's clang and its
+# fuzzer runtime when missing; CXX=clang++-NN chooses another clang) and runs each for SECONDS
+# (default 60), one after another, on a working copy of its seed corpus. Exits non-zero when any
+# target has a finding: a crash, a sanitizer report, an exception other than the program's
+# RuntimeFailure, a broken rule, a timeout, a leak or too much memory. What a finding left behind
+# is in fuzz-build/findings/<target>/.
 #
 #   ./scripts/fuzz.sh [SECONDS]
 #   FUZZ_TARGETS="calculate_fuzzer cli_batch_line_fuzzer" ./scripts/fuzz.sh 30   # some targets only
@@ -15,7 +16,9 @@ build=fuzz-build
 per_input_timeout=10  # seconds; a hang of one input is a finding
 memory_limit_mb=2048
 
-fuzz_packages=(clang-14 libclang-rt-14-dev cmake)
+# A clang chosen by CXX brings its own fuzzer runtime.
+fuzz_packages=(cmake)
+if [ -z "${CXX:-}" ]; then fuzz_packages+=(clang libclang-rt-dev); fi
 
 install_missing_packages() {
   local missing=()

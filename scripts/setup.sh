@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages the build needs, when any is missing. Sourced by run.sh and test.sh.
+# Installs the Debian packages the build and its checks need, when any is missing (the checks of
+# the installation validate with desktop-file-utils and appstream). Sourced by the other scripts.
 set -euo pipefail
 
 ORRIVANE_PACKAGES=(
@@ -7,6 +8,7 @@ ORRIVANE_PACKAGES=(
   qt6-base-dev qt6-base-dev-tools libqt6printsupport6 libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth
+  desktop-file-utils appstream
 )
 
 orrivane_missing_packages() {

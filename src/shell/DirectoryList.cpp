@@ -40,29 +40,19 @@ DirectoryList::DirectoryList(QWidget* parent) : QTreeWidget(parent) {
   Set_Path(QDir::currentPath());
 }
 
-void DirectoryList::Set_Path(const QString& path) {
-  const QString absolute = QDir(path).absolutePath();
-  const bool changed = absolute != path_;
-  path_ = absolute;
-  Fill();
-  if (changed) emit Change();
-}
-
-void DirectoryList::Refresh() { Fill(); }
-
 void DirectoryList::Fill() {
   clear();
   const QIcon open = style()->standardIcon(QStyle::SP_DirOpenIcon);
   const QIcon closed = style()->standardIcon(QStyle::SP_DirClosedIcon);
   QTreeWidgetItem* parent = nullptr;
-  for (const QString& folder : Folders_Down_To(path_)) {
+  for (const QString& folder : Folders_Down_To(Path())) {
     auto* item = parent == nullptr ? new QTreeWidgetItem(this) : new QTreeWidgetItem(parent);
     item->setText(0, Shown_Name(folder));
     item->setIcon(0, open);
     item->setData(0, kPathRole, folder);
     parent = item;
   }
-  const QDir here(path_);
+  const QDir here(Path());
   for (const QString& name : here.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
     auto* item = new QTreeWidgetItem(parent);
     item->setText(0, name);

@@ -1,22 +1,19 @@
 #pragma once
 // The directory list of the file windows: the folders from the root down to the current one,
 // each one level further in, then the folders inside the current one. Opening an entry (a
-// double click, or Enter) makes it the current folder and tells so by Change.
+// double click, or Enter) makes it the current folder; Change tells whenever the current
+// folder becomes another one.
 #include <QString>
 #include <QTreeWidget>
 
+#include "shell/FolderView.h"
+
 namespace orrivane {
 
-class DirectoryList : public QTreeWidget {
+class DirectoryList : public QTreeWidget, public FolderView {
   Q_OBJECT
  public:
   explicit DirectoryList(QWidget* parent = nullptr);
-
-  QString Path() const { return path_; }
-  // Makes `path` the current folder; Change follows when it differs from the one before.
-  void Set_Path(const QString& path);
-  // Reads the folder again (a folder may have been made or removed meanwhile).
-  void Refresh();
 
   // The entries from the top, as they stand: the folder's name and its full path.
   int Entry_Count() const;
@@ -31,10 +28,10 @@ class DirectoryList : public QTreeWidget {
   void Change();
 
  private:
-  void Fill();
+  // The folders down to the current one and those inside it.
+  void Fill() override;
+  void Path_Changed() override { emit Change(); }
   QTreeWidgetItem* Entry(int entry) const;
-
-  QString path_;
 };
 
 }  // namespace orrivane

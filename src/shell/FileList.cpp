@@ -4,14 +4,9 @@
 
 namespace orrivane {
 
-FileList::FileList(QWidget* parent) : QListWidget(parent), path_(QDir::currentPath()) {
+FileList::FileList(QWidget* parent) : QListWidget(parent) {
   setSelectionMode(QAbstractItemView::SingleSelection);
-  Refresh();
-}
-
-void FileList::Set_Path(const QString& path) {
-  path_ = path;
-  Refresh();
+  Set_Path(QDir::currentPath());
 }
 
 void FileList::Set_Pattern(const QString& pattern) {
@@ -24,9 +19,9 @@ QString FileList::File_Name() const {
   return chosen.isEmpty() ? QString() : chosen.front()->text();
 }
 
-void FileList::Refresh() {
+void FileList::Fill() {
   clear();
-  QDir dir(path_);
+  QDir dir(Path());
   dir.setNameFilters(pattern_.split(';', Qt::SkipEmptyParts));
   dir.setFilter(QDir::Files);
   dir.setSorting(QDir::Name | QDir::IgnoreCase);

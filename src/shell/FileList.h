@@ -5,24 +5,24 @@
 #include <QListWidget>
 #include <QString>
 
+#include "shell/FolderView.h"
+
 namespace orrivane {
 
-class FileList : public QListWidget {
+class FileList : public QListWidget, public FolderView {
   Q_OBJECT
  public:
   explicit FileList(QWidget* parent = nullptr);
 
-  QString Path() const { return path_; }
-  void Set_Path(const QString& path);
   QString Pattern() const { return pattern_; }
   void Set_Pattern(const QString& pattern);
   // The name of the chosen file, or the empty text.
   QString File_Name() const;
-  // Reads the folder again.
-  void Refresh();
 
  private:
-  QString path_;
+  // The matching files of the folder.
+  void Fill() override;
+
   QString pattern_ = "*.*";
 };
 

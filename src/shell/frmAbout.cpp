@@ -5,7 +5,6 @@
 #include <iterator>
 #include <string_view>
 
-#include "platform/controls.h"
 #include "platform/window_registry.h"
 #include "shell/frmLiscense.h"
 
@@ -48,33 +47,21 @@ constexpr std::string_view kNotice[] = {
 static_assert(std::size(kNotice) == frmAbout::kNoticeRows);
 
 constexpr int kRowsShown = 5;
-constexpr int kLastPosition = frmAbout::kNoticeRows - kRowsShown + 1;  // 25: rows 25 to 29
-constexpr int kPageStep = 4;
+// Rows 1 to 5 at the top, rows 25 to 29 at the end; a page is four rows.
+constexpr RowWindow::ScrollStops kStops{1, frmAbout::kNoticeRows - kRowsShown + 1, 4};
 constexpr int kLeftEdge = 415;  // twips
 constexpr int kTop = 4380;  // twips; row i of the view at 4380 + 220 × i
 constexpr int kRowHeight = 220;  // twips
 
-// The steps of the verbs that move; "reset" sets the position.
-struct Move {
-  std::string_view direction;
-  int step;
+// The buttons, below the rows.
+constexpr RowWindow::ButtonPlace<frmAbout> kButtons[] = {
+    {"CmdUP", "Up", 27, 392, 80, &frmAbout::CmdUP, "up"},
+    {"CmdDown", "Down", 111, 392, 80, &frmAbout::CmdDown, "down"},
+    {"CmdPageUp", "Page Up", 195, 392, 100, &frmAbout::CmdPageUp, "pageup"},
+    {"CmdPageDown", "Page Down", 299, 392, 110, &frmAbout::CmdPageDown, "pagedown"},
+    {"CmdViewGPLLiscense", "View GPL Liscense ", 27, 428, 164, &frmAbout::CmdViewGPLLiscense},
+    {"cmdClose", "Close", 299, 428, 110, &frmAbout::cmdClose},
 };
-constexpr Move kMoves[] = {{"up", -1}, {"down", 1}, {"pageup", -kPageStep}, {"pagedown", kPageStep}};
-
-struct ButtonPlace {
-  const char* name;
-  const char* caption;
-  int x, y, width;  // pixels, below the rows
-};
-constexpr ButtonPlace kButtons[] = {
-    {"CmdUP", "Up", 27, 392, 80},
-    {"CmdDown", "Down", 111, 392, 80},
-    {"CmdPageUp", "Page Up", 195, 392, 100},
-    {"CmdPageDown", "Page Down", 299, 392, 110},
-    {"CmdViewGPLLiscense", "View GPL Liscense ", 27, 428, 164},
-    {"cmdClose", "Close", 299, 428, 110},
-};
-constexpr int kButtonHeight = 30;
 
 // The picture above the notice: a month page, with the first of the month marked.
 void Draw_Emblem(QPainter& painter, const QRect& page) {
@@ -105,24 +92,8 @@ QFont Sized(int pixels, bool bold) {
 
 }  // namespace
 
-frmAbout::frmAbout() {
-  setObjectName("frmAbout");
-  setWindowTitle("About Orrivane");
-  resize(436, 474);
-  setMinimumSize(436, 474);
-  setAutoFillBackground(true);
-
-  QPushButton** members[] = {&CmdUP, &CmdDown, &CmdPageUp, &CmdPageDown, &CmdViewGPLLiscense, &cmdClose};
-  for (std::size_t i = 0; i < std::size(kButtons); ++i) {
-    const ButtonPlace& place = kButtons[i];
-    auto* button = controls::Make_Button(this, place.name, place.caption);
-    button->setGeometry(place.x, place.y, place.width, kButtonHeight);
-    *members[i] = button;
-  }
-  connect(CmdUP, &QPushButton::clicked, this, [this] { CopyFair("up"); });
-  connect(CmdDown, &QPushButton::clicked, this, [this] { CopyFair("down"); });
-  connect(CmdPageUp, &QPushButton::clicked, this, [this] { CopyFair("pageup"); });
-  connect(CmdPageDown, &QPushButton::clicked, this, [this] { CopyFair("pagedown"); });
+frmAbout::frmAbout() : RowWindow("frmAbout", "About Orrivane", QSize(436, 474)) {
+  Make_Buttons(kButtons, &frmAbout::CopyFair);
   connect(CmdViewGPLLiscense, &QPushButton::clicked, this, [this] { CmdViewGPLLiscense_Click(); });
   connect(cmdClose, &QPushButton::clicked, this, &QWidget::hide);
 }
@@ -135,23 +106,10 @@ std::string frmAbout::DataSource(int DataLine) const {
 void frmAbout::CopyFair(const std::string& Direction) {
   for (int row = 1; row <= kNoticeRows; ++row) Rows_[static_cast<std::size_t>(row)] = DataSource(row);
   Clear_Rows();
-  if (Direction == "reset") Position_ = 1;
-  for (const Move& move : kMoves) {
-    if (Direction != move.direction) continue;
-    // A step is taken only from inside the stops; one that passes an end lands on it below.
-    const bool room = move.step < 0 ? Position_ > 0 : Position_ < kLastPosition + 1;
-    if (room) Position_ += move.step;
-  }
-  if (Position_ <= 0) {
-    Position_ = 1;
-    platform::Machine().Beep();
-  }
-  if (Position_ >= kLastPosition + 1) {
-    Position_ = kLastPosition;
-    platform::Machine().Beep();
-  }
+  if (Direction == "reset") Set_Position(kStops.first);
+  Move_Position(Direction, kStops);
   for (int i = 1; i <= kRowsShown; ++i) {
-    Print_Row(kLeftEdge, kTop + kRowHeight * i, Rows_[static_cast<std::size_t>(Position_ - 1 + i)]);
+    Print_Row(kLeftEdge, kTop + kRowHeight * i, Rows_[static_cast<std::size_t>(Position() - 1 + i)]);
   }
   update();
 }

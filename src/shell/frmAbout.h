@@ -21,22 +21,15 @@ class frmAbout : public RowWindow {
   frmAbout();
 
   // Moves the view by a verb: "up", "down", "pageup", "pagedown" or "reset" (the top), and
-  // prints the rows. Passing an end beeps and lands on it.
+  // prints the rows. Passing an end beeps and lands on it. The view's first row, Position, runs
+  // from 1 to 25 (0 before the first move).
   void CopyFair(const std::string& Direction);
   // Row DataLine of the notice, 1 to 29; the empty text for any other number.
-  std::string DataSource(int DataLine) const;
+  std::string DataSource(int DataLine) const override;
   // The window became active: back to the top.
   void Form_Activate() override;
 
-  // The first row of the view, 1 to 25 (0 before the first move).
-  int Position() const { return Position_; }
-
-  QPushButton* CmdUP;
-  QPushButton* CmdDown;
-  QPushButton* CmdPageUp;
-  QPushButton* CmdPageDown;
-  QPushButton* CmdViewGPLLiscense;
-  QPushButton* cmdClose;
+  QPushButton* CmdViewGPLLiscense = nullptr;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -45,7 +38,6 @@ class frmAbout : public RowWindow {
   void CmdViewGPLLiscense_Click();
 
   std::array<std::string, kNoticeRows + 1> Rows_;  // cell 0 is not used
-  int Position_ = 0;
 };
 
 }  // namespace orrivane

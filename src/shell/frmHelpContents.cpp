@@ -1,5 +1,6 @@
 #include "shell/frmHelpContents.h"
 
+#include <iterator>
 #include <string_view>
 
 #include "platform/controls.h"
@@ -17,20 +18,24 @@ QString To_QString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// Geometry in pixels: the choices in a column on the left, the text on the right.
-constexpr int kMargin = 12;
-constexpr int kLeftWidth = 320;
-constexpr int kCaptionHeight = 20;
-constexpr int kComboHeight = 28;
-constexpr int kListTop = 92;
-constexpr int kListHeight = 300;
-constexpr int kButtonTop = kListTop + kListHeight + 12;
-constexpr int kButtonHeight = 32;
-constexpr int kButtonGap = 12;
-constexpr int kTextLeft = kMargin + kLeftWidth + 16;
-constexpr int kTextWidth = 420;
-constexpr int kWindowWidth = kTextLeft + kTextWidth + kMargin;
-constexpr int kWindowHeight = kButtonTop + kButtonHeight + kMargin;
+// Where the controls stand, in pixels: the choices in a column on the left, from 12 to 332, the
+// text in one on the right, from 348 to 768, both down to the foot of the buttons at 436; the
+// two buttons share the width of the choices, 12 apart.
+struct Place {
+  const char* control;  // its name
+  int left, top, width, height;
+};
+constexpr Place kPlaces[] = {
+    {"lblCategoryCaption", 12, 10, 320, 20},
+    {"cboCategory", 12, 32, 320, 28},
+    {"lblTopicListCaption", 12, 70, 320, 20},
+    {"lstSelectATopic", 12, 92, 320, 300},
+    {"cmdSelect", 12, 404, 154, 32},
+    {"cmdCancel", 178, 404, 154, 32},
+    {"lblTopicName", 348, 10, 420, 20},
+    {"txtTopic", 348, 32, 420, 404},
+};
+constexpr QSize kWindowSize(780, 448);  // a margin of 12 beyond the text and the buttons
 
 }  // namespace
 
@@ -68,32 +73,25 @@ void frmHelpContents::Build_Controls() {
 }
 
 void frmHelpContents::Place_Controls() {
-  lblCategoryCaption->setGeometry(kMargin, 10, kLeftWidth, kCaptionHeight);
-  cboCategory->setGeometry(kMargin, 32, kLeftWidth, kComboHeight);
-  lblTopicListCaption->setGeometry(kMargin, 70, kLeftWidth, kCaptionHeight);
-  lstSelectATopic->setGeometry(kMargin, kListTop, kLeftWidth, kListHeight);
-  const int button_width = (kLeftWidth - kButtonGap) / 2;
-  cmdSelect->setGeometry(kMargin, kButtonTop, button_width, kButtonHeight);
-  cmdCancel->setGeometry(kMargin + button_width + kButtonGap, kButtonTop, button_width, kButtonHeight);
-  lblTopicName->setGeometry(kTextLeft, 10, kTextWidth, kCaptionHeight);
-  txtTopic->setGeometry(kTextLeft, 32, kTextWidth, kButtonTop + kButtonHeight - 32);
-  setFixedSize(kWindowWidth, kWindowHeight);
+  for (const Place& place : kPlaces) {
+    findChild<QWidget*>(place.control)->setGeometry(place.left, place.top, place.width, place.height);
+  }
+  setFixedSize(kWindowSize);
 
-  setTabOrder(cboCategory, lstSelectATopic);
-  setTabOrder(lstSelectATopic, cmdSelect);
-  setTabOrder(cmdSelect, cmdCancel);
-  setTabOrder(cmdCancel, txtTopic);
+  // The Tab key goes down the choices, then to the text.
+  QWidget* const tab_order[] = {cboCategory, lstSelectATopic, cmdSelect, cmdCancel, txtTopic};
+  for (std::size_t i = 1; i < std::size(tab_order); ++i) setTabOrder(tab_order[i - 1], tab_order[i]);
 }
 
 void frmHelpContents::Connect_Controls() {
   // A choice in the closed box by the keyboard counts as a click, as one in the open list does.
-  connect(cboCategory, &QComboBox::activated, this, [this] { cboCategory_Click(); });
+  connect(cboCategory, &QComboBox::activated, this, &frmHelpContents::cboCategory_Click);
   connect(lstSelectATopic, &QListWidget::itemSelectionChanged, this, [this] {
     if (!lstSelectATopic->selectedItems().isEmpty()) lstSelectATopic_Click();
   });
-  connect(lstSelectATopic, &QListWidget::itemDoubleClicked, this, [this] { lstSelectATopic_DblClick(); });
-  connect(cmdSelect, &QPushButton::clicked, this, [this] { cmdSelect_Click(); });
-  connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
+  connect(lstSelectATopic, &QListWidget::itemDoubleClicked, this, &frmHelpContents::lstSelectATopic_DblClick);
+  connect(cmdSelect, &QPushButton::clicked, this, &frmHelpContents::cmdSelect_Click);
+  connect(cmdCancel, &QPushButton::clicked, this, &frmHelpContents::cmdCancel_Click);
 }
 
 void frmHelpContents::Form_Load() {

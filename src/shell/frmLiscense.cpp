@@ -3,45 +3,30 @@
 #include <QFontDatabase>
 #include <QPainter>
 #include <QShowEvent>
-#include <iterator>
-#include <string_view>
-
-#include "platform/controls.h"
 
 namespace orrivane {
 
 namespace {
 
 constexpr int kRowsShown = 16;
-constexpr int kLastPosition = shell::kLicenceRows - kRowsShown + 1;  // 330: rows 330 to 345
-constexpr int kPageStep = 13;
+// The top shows the empty cell above row 1 and rows 1 to 15, the end rows 330 to 345; a page
+// is thirteen rows.
+constexpr RowWindow::ScrollStops kStops{0, shell::kLicenceRows - kRowsShown + 1, 13};
 constexpr int kLeftEdge = 500;  // twips
 constexpr int kRowHeight = 220;  // twips
 constexpr int kFirstPrintRow = 6;  // the view is printed at 220 × 6 to 220 × 21 twips
 
-// The steps of the verbs that move; the others set the position or keep it.
-struct Move {
-  std::string_view direction;
-  int step;
-};
-constexpr Move kMoves[] = {{"up", -1}, {"down", 1}, {"pageup", -kPageStep}, {"pagedown", kPageStep}};
-
-struct ButtonPlace {
-  const char* name;
-  const char* caption;
-  const char* direction;  // the verb handed to Scroll
-  int x, width;  // pixels, on the row above the text
-};
-constexpr ButtonPlace kButtons[] = {
-    {"CmdHome", "Home", "reset", 33, 70},
-    {"CmdPageUp", "Page Up", "pageup", 107, 80},
-    {"CmdUP", "Up", "up", 191, 70},
-    {"CmdDown", "Down", "down", 265, 70},
-    {"CmdPageDown", "Page Down", "pagedown", 339, 90},
-    {"CmdEnd", "End", "end", 433, 70},
-};
+// The buttons, on the row above the text.
 constexpr int kButtonTop = 28;
-constexpr int kButtonHeight = 30;
+constexpr RowWindow::ButtonPlace<frmLiscense> kButtons[] = {
+    {"CmdHome", "Home", 33, kButtonTop, 70, &frmLiscense::CmdHome, "reset"},
+    {"CmdPageUp", "Page Up", 107, kButtonTop, 80, &frmLiscense::CmdPageUp, "pageup"},
+    {"CmdUP", "Up", 191, kButtonTop, 70, &frmLiscense::CmdUP, "up"},
+    {"CmdDown", "Down", 265, kButtonTop, 70, &frmLiscense::CmdDown, "down"},
+    {"CmdPageDown", "Page Down", 339, kButtonTop, 90, &frmLiscense::CmdPageDown, "pagedown"},
+    {"CmdEnd", "End", 433, kButtonTop, 70, &frmLiscense::CmdEnd, "end"},
+    {"cmdClose", "Close", 537, kButtonTop, 70, &frmLiscense::cmdClose},
+};
 
 // A monospace face, so that the license keeps its own layout, small enough for the row pitch.
 QFont Row_Font() {
@@ -52,24 +37,8 @@ QFont Row_Font() {
 
 }  // namespace
 
-frmLiscense::frmLiscense() {
-  setObjectName("frmLiscense");
-  setWindowTitle("License");
-  resize(640, 345);
-  setMinimumSize(640, 345);
-  setAutoFillBackground(true);
-
-  QPushButton** members[] = {&CmdHome, &CmdPageUp, &CmdUP, &CmdDown, &CmdPageDown, &CmdEnd};
-  for (std::size_t i = 0; i < std::size(kButtons); ++i) {
-    const ButtonPlace& place = kButtons[i];
-    auto* button = controls::Make_Button(this, place.name, place.caption);
-    button->setGeometry(place.x, kButtonTop, place.width, kButtonHeight);
-    connect(button, &QPushButton::clicked, this, [this, direction = place.direction] { Scroll(direction); });
-    *members[i] = button;
-  }
-  cmdClose = new QPushButton("Close", this);
-  cmdClose->setObjectName("cmdClose");
-  cmdClose->setGeometry(537, kButtonTop, 70, kButtonHeight);
+frmLiscense::frmLiscense() : RowWindow("frmLiscense", "License", QSize(640, 345)) {
+  Make_Buttons(kButtons, &frmLiscense::Scroll);
   connect(cmdClose, &QPushButton::clicked, this, [this] { cmdClose_Click(); });
 }
 
@@ -84,29 +53,16 @@ void frmLiscense::Fill_Rows() {
 
 void frmLiscense::Scroll(const std::string& Direction) {
   Fill_Rows();
-  if (Direction == "reset") Position_ = 0;
-  if (Direction == "end") Position_ = kLastPosition;
-  for (const Move& move : kMoves) {
-    if (Direction != move.direction) continue;
-    // A step is taken only from inside the stops; one that passes an end lands on it below.
-    const bool room = move.step < 0 ? Position_ > -1 : Position_ < kLastPosition + 1;
-    if (room) Position_ += move.step;
-  }
-  if (Position_ < 0) {
-    Position_ = 0;
-    platform::Machine().Beep();
-  }
-  if (Position_ > kLastPosition) {
-    Position_ = kLastPosition;
-    platform::Machine().Beep();
-  }
+  if (Direction == "reset") Set_Position(kStops.first);
+  if (Direction == "end") Set_Position(kStops.last);
+  Move_Position(Direction, kStops);
   Print_Rows();
 }
 
 void frmLiscense::Print_Rows() {
   Clear_Rows();
   for (int i = kFirstPrintRow; i < kFirstPrintRow + kRowsShown; ++i) {
-    const auto row = static_cast<std::size_t>(Position_ + i - kFirstPrintRow);
+    const auto row = static_cast<std::size_t>(Position() + i - kFirstPrintRow);
     Print_Row(kLeftEdge, kRowHeight * i, Rows_[row]);
   }
   if (!Painting_) update();

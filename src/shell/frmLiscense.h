@@ -21,23 +21,16 @@ class frmLiscense : public RowWindow {
 
   // Moves the view by a verb: "up", "down", "pageup", "pagedown", "reset" (the top), "end" (the
   // last sixteen rows) or "refresh" (stay), and prints the rows. Passing an end beeps and lands
-  // on it; any other verb stays too.
+  // on it; any other verb stays too. The view's first row, Position, is 0 at the top, whose
+  // first row is the empty cell above row 1.
   void Scroll(const std::string& Direction);
   // Row DataLine of the licence, 1 to 345; the empty text for any other number.
-  std::string DataSource(int DataLine) const;
+  std::string DataSource(int DataLine) const override;
   // The window became active: back to the top.
   void Form_Activate() override;
 
-  // The first row of the view; 0 is the top, whose first row is the empty cell above row 1.
-  int Position() const { return Position_; }
-
-  QPushButton* CmdUP;
-  QPushButton* CmdDown;
-  QPushButton* CmdPageUp;
-  QPushButton* CmdPageDown;
-  QPushButton* CmdHome;
-  QPushButton* CmdEnd;
-  QPushButton* cmdClose;
+  QPushButton* CmdHome = nullptr;
+  QPushButton* CmdEnd = nullptr;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -48,7 +41,6 @@ class frmLiscense : public RowWindow {
   void cmdClose_Click();
 
   std::array<std::string, shell::kLicenceRows + 1> Rows_;  // cell 0 stays empty
-  int Position_ = 0;
   bool Painting_ = false;      // a Scroll from the paint event draws itself; no new paint
 };
 

@@ -10,10 +10,9 @@
 namespace orrivane::shell {
 namespace {
 
-// The copy of the license at the top of the source tree, two folders above this file.
+// The copy of the license at the top of the source tree, one folder above the test data.
 std::string Licence_File() {
-  const std::string here = __FILE__;
-  std::ifstream file(here.substr(0, here.rfind('/')) + "/../../LICENSE", std::ios::binary);
+  std::ifstream file(std::string(ORRIVANE_TEST_DATA) + "/../../LICENSE", std::ios::binary);
   EXPECT_TRUE(file.is_open());
   std::ostringstream content;
   content << file.rdbuf();
