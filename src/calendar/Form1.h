@@ -12,15 +12,13 @@
 #include <string_view>
 
 #include "calendar/CalendarFace.h"
-#include "calendar/MenuTree.h"
+#include "platform/MenuTree.h"
 #include "core/value.h"
 #include "engine/calendar_engine.h"
 #include "holidays/holiday_rules.h"
 
 namespace orrivane {
 
-// Shows a window and brings it to the front.
-void Show_In_Front(QWidget& window);
 
 class Form1 : public QMainWindow {
   Q_OBJECT

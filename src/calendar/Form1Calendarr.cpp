@@ -25,12 +25,12 @@ namespace {
 using engine::CalendarStyle;
 using platform::Machine;
 using platform::Show_Message;
+using controls::Text_Of;
 
 CalendarStyle Style_Of(const std::string& text) {
   return engine::Calendar_Style_From_Text(text).value_or(CalendarStyle::Gregorian);
 }
 
-std::string Text_Of(const QComboBox* box) { return box->currentText().toStdString(); }
 
 // "March 5, 2001": month up to the first blank, date up to the comma, the year two places after
 // the comma.
@@ -255,23 +255,6 @@ void Form1::Convert(std::string_view Calling_Sub_Origin) {
   } else {
     Store_Format_Day_Of_Week_Label_Variables("Date_String", "Put", result.date_string);
   }
-}
-
-// ---- Start ---------------------------------------------------------------------------------
-
-void Form1::Start_Program() {
-  hide();
-  Window<frmLargeCalendar>().show();
-  Window<frmAbout>().show();
-  organizer::Empty_Working_Log();
-  Display_Todays_Date();
-  const std::string today = Machine().System_Date();
-  const double month = organizer::Parse_Date(today, "Month").number();
-  const double year = organizer::Parse_Date(today, "Year").number();
-  Machine().Randomize(month * year);
-  Current_Month_Color("Set Equal To", calendar::Month_Color_Index(Machine().Rnd()));
-  Set_Current_Month_Calendar_Colors();
-  Window<frmLargeCalendar>().Set_Current_Month_Calendar_Colors();
 }
 
 }  // namespace orrivane

@@ -15,6 +15,7 @@ namespace orrivane {
 namespace {
 
 using controls::Make_Label;
+using controls::Text_Of;
 
 using controls::Make_Button;
 
@@ -32,7 +33,6 @@ void Add_Two_Digit_Numbers(QComboBox* combo, int first, int last) {
   for (int n = first; n <= last; ++n) combo->addItem(QString("%1").arg(n, 2, 10, QChar('0')));
 }
 
-std::string Text_Of(const QComboBox* combo) { return combo->currentText().toStdString(); }
 
 }  // namespace
 

@@ -5,15 +5,10 @@
 #include <QMenuBar>
 #include <functional>
 
+#include "calendar/CalendarMenu.h"
 #include "calendar/Form1.h"
 #include "calendar/calendar_callers.h"
-#include "calendar/frmFindADate.h"
-#include "calendar/frmSelectMonth.h"
 #include "calendar/task_overlay.h"
-#include "elapsed/frmFindDateDifference.h"
-#include "holidays/frmFindAHoliday.h"
-#include "shell/frmAbout.h"
-#include "shell/frmLiscense.h"
 #include "engine/calendar_engine.h"
 #include "organizer/log_file.h"
 #include "platform/controls.h"
@@ -22,48 +17,6 @@
 namespace orrivane {
 
 namespace {
-
-constexpr MenuEntry kLargeCalendarMenu[] = {
-    {"", "mnuFile", "&File", ""},
-    {"mnuFile", "mnuNewLog", "New Log", "", false, true},
-    {"mnuFile", "mnuOpenLog", "Open Log...", "Ctrl+O", false, true},
-    {"mnuFile", "mnuSaveLog", "Save Log", "Ctrl+S", false, true},
-    {"mnuFile", "mnuSaveLogAs", "Save Log As...", "Ctrl+V", false, true},
-    {"mnuFile", "mnuPrintLog", "Print Log...", "F2", false, true},
-    {"mnuFile", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2", false, true},
-    {"mnuFile", "mnuExit", "Exit", "Ctrl+Q"},
-    {"", "mnuView", "&View", ""},
-    {"mnuView", "mnuTodaysDates", "Today's Date", "Ctrl+D"},
-    {"mnuView", "mnuMonth", "Month", "", true},
-    {"mnuMonth", "mnuNext", "Next", "Ctrl+N"},
-    {"mnuMonth", "mnuPrevious", "Previous", "Ctrl+P"},
-    {"mnuMonth", "mnuSelect", "Select...", "Ctrl+M"},
-    {"mnuView", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I", false, true},
-    {"", "mnuLog", "&Log", ""},
-    {"mnuLog", "mnuAddNewTaskEventToLog", "Add New Task\\Event To Log...", "Ctrl+E", false, true},
-    {"mnuLog", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G", false, true},
-    {"mnuLog", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3", false, true},
-    {"mnuLog", "mnuDeleteGroupMember", "Delete Group Member From Log...", "Shift+F3", false, true},
-    {"", "mnuTools", "&Tools", ""},
-    {"mnuTools", "mnuConvertThisDate", "Convert This Date...", "Ctrl+C"},
-    {"mnuTools", "mnuFindADatesWeekday", "Find A Date's Weekday", "Ctrl+W"},
-    {"mnuTools", "mnuFindHolidayDates", "Find Holiday Dates...", "Ctrl+H"},
-    {"mnuTools", "mnuSchedulerReminder", "Organizer...", "F3", false, true},
-    {"mnuTools", "mnuFindTimeLengthBetweenDates", "Find Time Length Between Dates", "Ctrl+T"},
-    {"mnuTools", "mnuReminders", "Reminders", "", true},
-    {"mnuReminders", "mnuAdd", "Add...", "F6", false, true},
-    {"mnuReminders", "mnuChange", "Change...", "Ctrl+F6", false, true},
-    {"mnuReminders", "mnuDelete", "Delete...", "Shift+F6", false, true},
-    {"", "mnuWindow", "&Window", ""},
-    {"mnuWindow", "mnuMinimizeToTaskbar", "Minimize To Taskbar", "F5"},
-    {"mnuWindow", "mnuMaximize", "Maximize", "Ctrl+F5"},
-    {"mnuWindow", "mnuWindowed", "Windowed", "Shift+F5"},
-    {"mnuWindow", "mnuSmallWindow", "Small Window", "F4"},
-    {"", "mnuHelp", "&Help", ""},
-    {"mnuHelp", "mnuContents", "Contents...", "F1", false, true},
-    {"mnuHelp", "mnuLicense", "License...", "Ctrl+L"},
-    {"mnuHelp", "mnuAbout", "About...", "Ctrl+A"},
-};
 
 // A combo box that tells when its list is about to open.
 class DropDownComboBox : public QComboBox {
@@ -130,7 +83,7 @@ void frmLargeCalendar::Build_Controls() {
 }
 
 void frmLargeCalendar::Build_Menu() {
-  menu = std::make_unique<MenuTree>(menuBar(), kLargeCalendarMenu);
+  menu = std::make_unique<MenuTree>(menuBar(), Calendar_Menu_Entries(CalendarWindow::LargeCalendar));
 }
 
 void frmLargeCalendar::Connect_Controls() {
@@ -138,21 +91,12 @@ void frmLargeCalendar::Connect_Controls() {
   connect(cmdPriorMonth, &QPushButton::clicked, this, [] { Window<Form1>().Display_Prior_Month_On_Calendar(); });
   connect(cmdExit, &QPushButton::clicked, this,
           [] { Window<Form1>().Terminate_This_Program(calendar::kLargeCalendarCmdExitClick); });
+  Connect_Shared_Calendar_Entries(*menu, CalendarWindow::LargeCalendar);
   menu->On("mnuExit", [] { Window<Form1>().Terminate_This_Program(calendar::kLargeCalendarMnuExitClick); });
-  menu->On("mnuTodaysDates", [] { Window<Form1>().Display_Todays_Date(); });
-  menu->On("mnuNext", [] { Window<Form1>().Display_Next_Month_On_Calendar(); });
-  menu->On("mnuPrevious", [] { Window<Form1>().Display_Prior_Month_On_Calendar(); });
-  menu->On("mnuConvertThisDate", [] { Window<Form1>().Cal_Conversion(); });
   menu->On("mnuMinimizeToTaskbar", [this] { setWindowState(Qt::WindowMinimized); });
   menu->On("mnuMaximize", [this] { setWindowState(Qt::WindowMaximized); });
   menu->On("mnuWindowed", [this] { setWindowState(Qt::WindowNoState); });
   menu->On("mnuSmallWindow", [this] { Activate_Form1(); });
-  menu->On("mnuSelect", [] { Show_In_Front(Window<frmSelectMonth>()); });
-  menu->On("mnuFindADatesWeekday", [] { Window<frmFindADate>().show(); });
-  menu->On("mnuFindTimeLengthBetweenDates", [] { Show_In_Front(Window<frmFindDateDifference>()); });
-  menu->On("mnuFindHolidayDates", [] { Show_In_Front(Window<frmFindAHoliday>()); });
-  menu->On("mnuLicense", [] { Window<frmLiscense>().show(); });
-  menu->On("mnuAbout", [] { Window<frmAbout>().show(); });
   connect(cboShowTaskListFor, &QComboBox::activated, this, [this] { Refresh_Calendar_TaskList(); });
 }
 

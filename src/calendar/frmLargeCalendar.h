@@ -11,7 +11,7 @@
 #include <string>
 
 #include "calendar/CalendarFace.h"
-#include "calendar/MenuTree.h"
+#include "platform/MenuTree.h"
 
 namespace orrivane {
 

@@ -44,6 +44,7 @@ constexpr Comparison kComparisons[] = {
 };
 
 using controls::Make_Label;
+using controls::Text_Of;
 
 QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable) {
   auto* combo = new QComboBox(parent);
@@ -82,7 +83,6 @@ void Add_Two_Digit_Numbers(QComboBox* combo, int first, int last) {
   for (int n = first; n <= last; ++n) combo->addItem(QString("%1").arg(n, 2, 10, QChar('0')));
 }
 
-std::string Text_Of(const QComboBox* combo) { return combo->currentText().toStdString(); }
 
 // An editable box shows the text; the list follows it where it holds the same entry.
 void Set_Combo_Text(QComboBox* combo, const std::string& text) {

@@ -51,6 +51,7 @@ constexpr const char* kFilledListCommands[] = {"cmdSave", "mnuSaveList", "cmdCle
                                                "mnuPrintHolidayList"};
 
 using controls::Make_Label;
+using controls::Text_Of;
 
 using controls::Make_Button;
 
@@ -64,7 +65,6 @@ void Set_Text_Box_Color(QLineEdit* box, unsigned colour) {
   box->setPalette(palette);
 }
 
-std::string Text_Of(const QLineEdit* box) { return box->text().toStdString(); }
 
 }  // namespace
 

@@ -19,7 +19,7 @@
 #include <string_view>
 #include <vector>
 
-#include "calendar/MenuTree.h"
+#include "platform/MenuTree.h"
 #include "core/value.h"
 #include "holidays/HolidayListModel.h"
 #include "holidays/holiday_rules.h"

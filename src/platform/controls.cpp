@@ -44,4 +44,10 @@ void Set_Back_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::
 unsigned Fore_Color(const QWidget* widget) { return Read(widget, "ForeColor", kButtonText); }
 unsigned Back_Color(const QWidget* widget) { return Read(widget, "BackColor", kButtonFace); }
 
+void Show_In_Front(QWidget& window) {
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
 }  // namespace orrivane::controls

@@ -1,7 +1,9 @@
 #pragma once
 // Small helpers shared by the windows: the program's colour numbers, twips, control names.
 #include <QColor>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QString>
 #include <string>
@@ -50,5 +52,12 @@ void Set_Fore_Color(QWidget* widget, unsigned colour);
 void Set_Back_Color(QWidget* widget, unsigned colour);
 unsigned Fore_Color(const QWidget* widget);
 unsigned Back_Color(const QWidget* widget);
+
+// What a box holds, as the program reads it.
+inline std::string Text_Of(const QComboBox* box) { return box->currentText().toStdString(); }
+inline std::string Text_Of(const QLineEdit* box) { return box->text().toStdString(); }
+
+// Shows a window and brings it to the front, active: how every window is asked for.
+void Show_In_Front(QWidget& window);
 
 }  // namespace orrivane::controls

@@ -1,4 +1,4 @@
-#include "calendar/MenuTree.h"
+#include "platform/MenuTree.h"
 
 #include <QMenu>
 #include <stdexcept>

@@ -1,0 +1,100 @@
+// The one menu of the two calendar windows: what each carries, the entries that differ between
+// them, and the help window that F1 brings from either.
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "calendar/CalendarMenu.h"
+#include "calendar_window_test.h"
+#include "shell/frmHelpContents.h"
+
+namespace orrivane {
+namespace {
+
+class CalendarMenuTest : public testing::CalendarWindowTest {};
+
+std::vector<std::string> Names_Of(const std::vector<MenuEntry>& entries) {
+  std::vector<std::string> names;
+  for (const MenuEntry& entry : entries) names.emplace_back(entry.name);
+  return names;
+}
+
+TEST(CalendarMenuEntries, EachWindowHasItsOwnNamesForTheEntriesThatDiffer) {
+  const std::vector<std::string> main = Names_Of(Calendar_Menu_Entries(CalendarWindow::Form1));
+  const std::vector<std::string> large = Names_Of(Calendar_Menu_Entries(CalendarWindow::LargeCalendar));
+  auto has = [](const std::vector<std::string>& names, const char* name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+  };
+  for (const char* name : {"mnuTodaysDate", "mnuConvertDate", "mnuScheduler_Reminder", "mnuOptions", "mnuLargeWindow"}) {
+    EXPECT_TRUE(has(main, name)) << name;
+    EXPECT_FALSE(has(large, name)) << name;
+  }
+  for (const char* name :
+       {"mnuTodaysDates", "mnuConvertThisDate", "mnuSchedulerReminder", "mnuMaximize", "mnuWindowed", "mnuSmallWindow"}) {
+    EXPECT_TRUE(has(large, name)) << name;
+    EXPECT_FALSE(has(main, name)) << name;
+  }
+  EXPECT_EQ(main.size(), 38u);
+  EXPECT_EQ(large.size(), 39u);
+}
+
+TEST(CalendarMenuEntries, TheWindowMenusKeepTheirOrder) {
+  std::vector<std::string> main_window, large_window;
+  for (const MenuEntry& e : Calendar_Menu_Entries(CalendarWindow::Form1)) {
+    if (std::string(e.parent) == "mnuWindow") main_window.emplace_back(e.name);
+  }
+  for (const MenuEntry& e : Calendar_Menu_Entries(CalendarWindow::LargeCalendar)) {
+    if (std::string(e.parent) == "mnuWindow") large_window.emplace_back(e.name);
+  }
+  EXPECT_EQ(main_window, (std::vector<std::string>{"mnuMinimizeToTaskbar", "mnuLargeWindow"}));
+  EXPECT_EQ(large_window,
+            (std::vector<std::string>{"mnuMinimizeToTaskbar", "mnuMaximize", "mnuWindowed", "mnuSmallWindow"}));
+}
+
+TEST_F(CalendarMenuTest, TheTopMenusStandInTheSameOrderOnBothWindows) {
+  Start_Program();
+  auto tops = [](QMainWindow& window) {
+    std::vector<std::string> names;
+    for (QAction* action : window.menuBar()->actions()) names.push_back(action->objectName().toStdString());
+    return names;
+  };
+  const std::vector<std::string> expected{"mnuFile", "mnuView", "mnuLog", "mnuTools", "mnuWindow", "mnuHelp"};
+  EXPECT_EQ(tops(main()), expected);
+  EXPECT_EQ(tops(large()), expected);
+}
+
+TEST_F(CalendarMenuTest, F1OpensTheHelpFromTheLargeCalendar) {
+  Start_Program();
+  Press_Keys(large(), QKeySequence(Qt::Key_F1));
+  EXPECT_TRUE(Window<frmHelpContents>().isVisible());
+  EXPECT_EQ(Window<frmHelpContents>().windowTitle(), "Orrivane Help");
+}
+
+TEST_F(CalendarMenuTest, F1OpensTheHelpFromTheMainWindow) {
+  Start_Program();
+  Press_Keys(large(), QKeySequence(Qt::Key_F4));
+  ASSERT_TRUE(main().isVisible());
+  Press_Keys(main(), QKeySequence(Qt::Key_F1));
+  EXPECT_TRUE(Window<frmHelpContents>().isVisible());
+}
+
+TEST_F(CalendarMenuTest, TheEntriesWhoseWindowsComeLaterStandDisabledOnBoth) {
+  Start_Program();
+  for (const char* name : {"mnuNewLog", "mnuOpenLog", "mnuSaveLog", "mnuSaveLogAs", "mnuPrintLog", "mnuPrintCalendar",
+                           "mnuTaskEventInfo", "mnuAddNewTaskEventToLog", "mnuAddNewGroupMember",
+                           "mnuDeleteATaskEvent", "mnuDeleteGroupMember", "mnuAdd", "mnuChange", "mnuDelete"}) {
+    EXPECT_FALSE(Menu(main(), name)->isEnabled()) << name;
+    EXPECT_FALSE(Menu(large(), name)->isEnabled()) << name;
+  }
+  EXPECT_FALSE(Menu(main(), "mnuScheduler_Reminder")->isEnabled());
+  EXPECT_FALSE(Menu(large(), "mnuSchedulerReminder")->isEnabled());
+  EXPECT_TRUE(Menu(main(), "mnuContents")->isEnabled());
+  EXPECT_TRUE(Menu(large(), "mnuContents")->isEnabled());
+}
+
+}  // namespace
+}  // namespace orrivane
