@@ -21,6 +21,48 @@ const Message kOptionsNotice{
     vbOKOnly, vbNoIcon};
 
 
+// Geometry: a wall calendar in the middle, the smaller months at its sides, the date line
+// below it and the buttons at the foot, in pixels. A label without a place is a hidden store.
+struct LabelRow {
+  QLabel* Form1::*member;
+  const char* name;
+  const char* caption;
+  QRect place;
+};
+const LabelRow kLabels[] = {
+    {&Form1::lblStoreMonth, "lblStoreMonth", "", {}},
+    {&Form1::lblStoreYear, "lblStoreYear", "", {}},
+    {&Form1::lblStoreScheduleFileName, "lblStoreScheduleFileName", "", {}},
+    {&Form1::lblStoreScheduleFilePath, "lblStoreScheduleFilePath", "", {}},
+    {&Form1::lblCalendarNameOverCalendar, "lblCalendarNameOverCalendar", "GREGORIAN CALENDAR", {190, 6, 540, 22}},
+    {&Form1::lblMonthYear, "lblMonthYear", "", {190, 28, 540, 28}},
+    {&Form1::lblShowDate, "lblShowDate", "", {446, 428, 200, 24}},
+    {&Form1::lblShowCalendarName, "lblShowCalendarName", "Gregorian", {650, 428, 90, 24}},
+    {&Form1::lblDisplayDay, "lblDisplayDay", "", {190, 398, 250, 26}},
+    {&Form1::lblDate, "lblDate", "", {190, 428, 250, 24}},
+};
+
+// The buttons in their tab order: the steps beside the calendar, then two rows at the foot.
+struct ButtonRow {
+  QPushButton* Form1::*member;
+  const char* name;
+  const char* caption;
+  QRect place;
+};
+const ButtonRow kButtons[] = {
+    {&Form1::cmdPriorMonth, "cmdPriorMonth", "<< Prior Month", {12, 250, 166, 30}},
+    {&Form1::cmdNextMonth, "cmdNextMonth", "NEXT Month >>", {742, 250, 166, 30}},
+    {&Form1::cmdDisplayTodaysDate, "cmdDisplayTodaysDate", "Display Todays Date On Calendar", {12, 470, 218, 32}},
+    {&Form1::cmdDisplayMonthOnCalendar, "cmdDisplayMonthOnCalendar", "Display A Month On Calendar",
+     {238, 470, 218, 32}},
+    {&Form1::cmdFindADatesWeekday, "cmdFindADatesWeekday", "Find A Date's Weekday", {464, 470, 218, 32}},
+    {&Form1::cmdFindHolidayDates, "cmdFindHolidayDates", "Find The Dates Of Holidays", {690, 470, 218, 32}},
+    {&Form1::CmdConvert, "CmdConvert", "Convert This Date To Old Style", {12, 510, 218, 32}},
+    {&Form1::cmdPrintTheCalendar, "cmdPrintTheCalendar", "Print The Calendar", {238, 510, 218, 32}},
+    {&Form1::cmdOrganizer, "cmdOrganizer", "Organizer\\Edit Tasks Or Events", {464, 510, 218, 32}},
+    {&Form1::cmdExit, "cmdExit", "EXIT", {690, 510, 218, 32}},
+};
+
 using controls::Make_Button;
 using controls::Make_Label;
 using controls::Show_In_Front;
@@ -38,69 +80,44 @@ Form1::Form1() : face(new QWidget) {
 
 void Form1::Build_Controls() {
   QWidget* body = centralWidget();
-  lblStoreMonth = Make_Label(body, "lblStoreMonth");
-  lblStoreYear = Make_Label(body, "lblStoreYear");
-  lblStoreScheduleFileName = Make_Label(body, "lblStoreScheduleFileName");
-  lblStoreScheduleFilePath = Make_Label(body, "lblStoreScheduleFilePath");
-  for (QLabel* hidden : {lblStoreMonth, lblStoreYear, lblStoreScheduleFileName, lblStoreScheduleFilePath}) {
-    hidden->hide();
+  for (const LabelRow& row : kLabels) {
+    QLabel* label = Make_Label(body, row.name, row.caption);
+    if (row.place.isNull()) {
+      label->hide();  // a store of the program's state
+    } else {
+      label->setGeometry(row.place);
+    }
+    this->*row.member = label;
   }
-  lblCalendarNameOverCalendar = Make_Label(body, "lblCalendarNameOverCalendar", "GREGORIAN CALENDAR");
-  lblMonthYear = Make_Label(body, "lblMonthYear");
-  lblShowDate = Make_Label(body, "lblShowDate");
-  lblShowCalendarName = Make_Label(body, "lblShowCalendarName", "Gregorian");
-  lblDisplayDay = Make_Label(body, "lblDisplayDay");
-  lblDate = Make_Label(body, "lblDate");
-  txtShowWeekday = new QLineEdit(body);
-  txtShowWeekday->setObjectName("txtShowWeekday");
+  txtShowWeekday = controls::Make<QLineEdit>(body, "txtShowWeekday");
   txtShowWeekday->setReadOnly(true);
-
-  cmdPriorMonth = Make_Button(body, "cmdPriorMonth", "<< Prior Month");
-  cmdNextMonth = Make_Button(body, "cmdNextMonth", "NEXT Month >>");
-  cmdDisplayTodaysDate = Make_Button(body, "cmdDisplayTodaysDate", "Display Todays Date On Calendar");
-  cmdDisplayMonthOnCalendar = Make_Button(body, "cmdDisplayMonthOnCalendar", "Display A Month On Calendar");
-  cmdFindADatesWeekday = Make_Button(body, "cmdFindADatesWeekday", "Find A Date's Weekday");
-  cmdFindHolidayDates = Make_Button(body, "cmdFindHolidayDates", "Find The Dates Of Holidays");
-  CmdConvert = Make_Button(body, "CmdConvert", "Convert This Date To Old Style");
-  cmdPrintTheCalendar = Make_Button(body, "cmdPrintTheCalendar", "Print The Calendar");
-  cmdOrganizer = Make_Button(body, "cmdOrganizer", "Organizer\\Edit Tasks Or Events");
-  cmdExit = Make_Button(body, "cmdExit", "EXIT");
+  txtShowWeekday->setGeometry(446, 398, 140, 26);
+  for (const ButtonRow& row : kButtons) {
+    QPushButton* button = Make_Button(body, row.name, row.caption);
+    button->setGeometry(row.place);
+    this->*row.member = button;
+  }
   for (QPushButton* later : {cmdPrintTheCalendar, cmdOrganizer}) later->setEnabled(false);
-
-  // Geometry: a wall calendar in the middle, the smaller months at its sides, the date line
-  // below it and the buttons at the foot.
+  Style_Controls();
   setFixedSize(920, 600);
+  face.Place(QRect(190, 60, 540, 330), QRect(12, 90, 166, 150), QRect(742, 90, 166, 150), 20);
+}
+
+void Form1::Style_Controls() {
   QFont heading = lblCalendarNameOverCalendar->font();
   heading.setPixelSize(16);
   heading.setBold(true);
   lblCalendarNameOverCalendar->setFont(heading);
-  lblCalendarNameOverCalendar->setAlignment(Qt::AlignCenter);
-  lblCalendarNameOverCalendar->setGeometry(190, 6, 540, 22);
   heading.setPixelSize(20);
   lblMonthYear->setFont(heading);
-  lblMonthYear->setAlignment(Qt::AlignCenter);
-  lblMonthYear->setGeometry(190, 28, 540, 28);
-  face.Place(QRect(190, 60, 540, 330), QRect(12, 90, 166, 150), QRect(742, 90, 166, 150), 20);
+  for (QLabel* centred : {lblCalendarNameOverCalendar, lblMonthYear}) centred->setAlignment(Qt::AlignCenter);
   QFont line = lblShowDate->font();
   line.setPixelSize(14);
   for (QWidget* w : std::initializer_list<QWidget*>{lblDisplayDay, txtShowWeekday, lblDate, lblShowDate,
                                                     lblShowCalendarName}) {
     w->setFont(line);
   }
-  lblDisplayDay->setGeometry(190, 398, 250, 26);
-  lblDisplayDay->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  txtShowWeekday->setGeometry(446, 398, 140, 26);
-  lblDate->setGeometry(190, 428, 250, 24);
-  lblDate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  lblShowDate->setGeometry(446, 428, 200, 24);
-  lblShowCalendarName->setGeometry(650, 428, 90, 24);
-  cmdPriorMonth->setGeometry(12, 250, 166, 30);
-  cmdNextMonth->setGeometry(742, 250, 166, 30);
-  const QPushButton* const foot[] = {cmdDisplayTodaysDate, cmdDisplayMonthOnCalendar, cmdFindADatesWeekday,
-                                     cmdFindHolidayDates, CmdConvert, cmdPrintTheCalendar, cmdOrganizer, cmdExit};
-  for (int i = 0; i < 8; ++i) {
-    const_cast<QPushButton*>(foot[i])->setGeometry(12 + (i % 4) * 226, 470 + (i / 4) * 40, 218, 32);
-  }
+  for (QLabel* caption : {lblDisplayDay, lblDate}) caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 void Form1::Build_Menu() {

@@ -108,6 +108,7 @@ class Form1 : public QMainWindow {
 
  private:
   void Build_Controls();
+  void Style_Controls();
   void Build_Menu();
   void Connect_Controls();
   void Show_Options_Notice();

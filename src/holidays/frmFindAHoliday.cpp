@@ -55,6 +55,20 @@ using controls::Text_Of;
 
 using controls::Make_Button;
 
+// The row of buttons below the list, from left to right.
+struct RowButton {
+  QPushButton* frmFindAHoliday::*member;
+  const char* name;
+  const char* caption;
+};
+const RowButton kRowButtons[] = {
+    {&frmFindAHoliday::cmdCalendar, "cmdCalendar", "Calendar"},
+    {&frmFindAHoliday::cmdRemoveItem, "cmdRemoveItem", "Remove"},
+    {&frmFindAHoliday::cmdSave, "cmdSave", "Save List..."},
+    {&frmFindAHoliday::cmdClear, "cmdClear", "Clear"},
+    {&frmFindAHoliday::cmdClose, "cmdClose", "Close"},
+};
+
 // A text box's face in a program colour, kept readable as the program reads colours back.
 void Set_Text_Box_Color(QLineEdit* box, unsigned colour) {
   box->setProperty("BackColor", QVariant::fromValue(colour));
@@ -164,11 +178,7 @@ void frmFindAHoliday::Build_Controls() {
   lblTotalResultsListedCaption = Make_Label(body, "lblTotalResultsListedCaption", "Total Results Listed:");
   lblTotalResultsListed = Make_Label(body, "lblTotalResultsListed");
 
-  cmdCalendar = Make_Button(body, "cmdCalendar", "Calendar");
-  cmdRemoveItem = Make_Button(body, "cmdRemoveItem", "Remove");
-  cmdSave = Make_Button(body, "cmdSave", "Save List...");
-  cmdClear = Make_Button(body, "cmdClear", "Clear");
-  cmdClose = Make_Button(body, "cmdClose", "Close");
+  for (const RowButton& button : kRowButtons) this->*button.member = Make_Button(body, button.name, button.caption);
 }
 
 void frmFindAHoliday::Build_Menu() {
@@ -198,8 +208,11 @@ void frmFindAHoliday::Place_Controls() {
   lblTotalResultsListedCaption->setGeometry(500, 346, 150, 22);
   lblTotalResultsListed->setGeometry(650, 346, 110, 22);
 
-  QPushButton* const row[] = {cmdCalendar, cmdRemoveItem, cmdSave, cmdClear, cmdClose};
-  for (int i = 0; i < 5; ++i) row[i]->setGeometry(12 + i * 152, 396, 144, 34);
+  int left = 12;
+  for (const RowButton& button : kRowButtons) {
+    (this->*button.member)->setGeometry(left, 396, 144, 34);
+    left += 152;
+  }
 }
 
 void frmFindAHoliday::Connect_Controls() {
