@@ -21,6 +21,8 @@ void Todays_Date() { Window<Form1>().Display_Todays_Date(); }
 void Next_Month() { Window<Form1>().Display_Next_Month_On_Calendar(); }
 void Prior_Month() { Window<Form1>().Display_Prior_Month_On_Calendar(); }
 void Convert_This_Date() { Window<Form1>().Cal_Conversion(); }
+// Both windows print the month of Form1.
+void Print_Calendar() { Window<Form1>().Print_Calendar(); }
 void Select_Month() { controls::Show_In_Front(Window<frmSelectMonth>()); }
 void Find_A_Dates_Weekday() { Window<frmFindADate>().show(); }
 void Find_Holiday_Dates() { controls::Show_In_Front(Window<frmFindAHoliday>()); }
@@ -52,7 +54,7 @@ constexpr CalendarMenuRow kCalendarMenu[] = {
     {"mnuFile", "mnuSaveLog", "mnuSaveLog", "Save Log", "Ctrl+S", nullptr, false, kLater},
     {"mnuFile", "mnuSaveLogAs", "mnuSaveLogAs", "Save Log As...", "Ctrl+V", nullptr, false, kLater},
     {"mnuFile", "mnuPrintLog", "mnuPrintLog", "Print Log...", "F2", nullptr, false, kLater},
-    {"mnuFile", "mnuPrintCalendar", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2", nullptr, false, kLater},
+    {"mnuFile", "mnuPrintCalendar", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2", Print_Calendar},
     {"mnuFile", "mnuExit", "mnuExit", "Exit", "Ctrl+Q"},
     {"", "mnuView", "mnuView", "&View", ""},
     {"mnuView", "mnuTodaysDate", "mnuTodaysDates", "Today's Date", "Ctrl+D", Todays_Date},

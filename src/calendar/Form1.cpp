@@ -97,7 +97,7 @@ void Form1::Build_Controls() {
     button->setGeometry(row.place);
     this->*row.member = button;
   }
-  for (QPushButton* later : {cmdPrintTheCalendar, cmdOrganizer}) later->setEnabled(false);
+  cmdOrganizer->setEnabled(false);  // its window is not part of the program yet
   Style_Controls();
   setFixedSize(920, 600);
   face.Place(QRect(190, 60, 540, 330), QRect(12, 90, 166, 150), QRect(742, 90, 166, 150), 20);
@@ -132,6 +132,7 @@ void Form1::Connect_Controls() {
   on_click(cmdNextMonth, &Form1::Display_Next_Month_On_Calendar);
   on_click(cmdDisplayTodaysDate, &Form1::Display_Todays_Date);
   on_click(CmdConvert, &Form1::Cal_Conversion);
+  on_click(cmdPrintTheCalendar, &Form1::Print_Calendar);
   connect(cmdDisplayMonthOnCalendar, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmSelectMonth>()); });
   connect(cmdFindADatesWeekday, &QPushButton::clicked, this, [] { Window<frmFindADate>().show(); });
   connect(cmdFindHolidayDates, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmFindAHoliday>()); });

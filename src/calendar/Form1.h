@@ -80,6 +80,10 @@ class Form1 : public QMainWindow {
   void Cal_Conversion();
   void Convert(std::string_view Calling_Sub_Origin);
 
+  // ---- Printing ----------------------------------------------------------------------------
+  // Copies the look of the grid as it stands into the print window, asks, and prints its page.
+  void Print_Calendar();
+
   // ---- Holidays on the calendar ------------------------------------------------------------
   // Writes the holidays of the days on show into the holiday cells of the large calendar.
   void Display_Holidays_On_Calendar(const std::string& CalStyle);

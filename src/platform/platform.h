@@ -68,8 +68,11 @@ class Platform {
   // A modal message box; answers vbOK, vbCancel, vbYes or vbNo.
   virtual int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) = 0;
 
-  // One print job holding the image of a window, on one page.
-  virtual void Print_Window(QWidget& window) = 0;
+  // One print job holding the image of a window, on one page. The document name tells the job
+  // apart in the printer's queue and names the file when the machine has no printer; an empty
+  // name leaves both to the platform.
+  virtual void Print_Window(QWidget& window, const std::string& document_name) = 0;
+  void Print_Window(QWidget& window) { Print_Window(window, {}); }
   // One print job of pages of text at positions.
   virtual void Print_Text(const std::vector<TextPage>& pages) = 0;
 

@@ -7,6 +7,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QWidget>
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
@@ -82,13 +83,17 @@ std::vector<ButtonAnswer> Buttons_Of(int buttons) {
   }
 }
 
-// The printer to use: the default one, or a PDF file in the current folder when there is none.
-void Set_Up_Printer(QPrinter& printer) {
+// The printer to use: the default one, or a PDF file in the current folder when there is none,
+// named by the document when it has a name.
+void Set_Up_Printer(QPrinter& printer, const std::string& document_name = {}) {
+  const QString document = QString::fromStdString(document_name);
+  if (!document.isEmpty()) printer.setDocName(document);
   if (!QPrinterInfo::defaultPrinter().isNull()) return;
   static int job = 0;
-  const QString name = QString("Orrivane-print-%1-%2.pdf")
-                           .arg(QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss"))
-                           .arg(++job);
+  const QString name = !document.isEmpty() ? document + ".pdf"
+                                           : QString("Orrivane-print-%1-%2.pdf")
+                                                 .arg(QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss"))
+                                                 .arg(++job);
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(QDir::current().filePath(name));
 }
@@ -109,15 +114,20 @@ int QtPlatform::Message_Box(const std::string& text, int buttons, int icon, cons
   return set.size() == 1 ? vbOK : (buttons == vbYesNo ? vbNo : vbCancel);
 }
 
-void QtPlatform::Print_Window(QWidget& window) {
-  const QImage image = window.grab().toImage();
+void QtPlatform::Print_Window(QWidget& window, const std::string& document_name) {
   QPrinter printer(QPrinter::HighResolution);
-  Set_Up_Printer(printer);
+  Set_Up_Printer(printer, document_name);
+  // The page is turned to the window's shape, so that its image fills the page.
+  printer.setPageOrientation(window.width() > window.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
   QPainter painter(&printer);
+  // The printable part of the page, within its margins, in the printer's own dots: the window
+  // is drawn there at that resolution, scaled to fill it and centred across.
   const QRect page = painter.viewport();
-  QSize size = image.size();
-  size.scale(page.size(), Qt::KeepAspectRatio);
-  painter.drawImage(QRect(page.topLeft(), size), image);
+  const double scale = std::min(page.width() / static_cast<double>(window.width()),
+                                page.height() / static_cast<double>(window.height()));
+  painter.translate(page.x() + (page.width() - window.width() * scale) / 2, page.y());
+  painter.scale(scale, scale);
+  window.render(&painter, QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
 }
 
 void QtPlatform::Print_Text(const std::vector<TextPage>& pages) {

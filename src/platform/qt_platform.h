@@ -28,7 +28,8 @@ class QtPlatform : public Platform {
   TimerId Start_Timer(int interval_ms, std::function<void()> tick) override;
   void Stop_Timer(TimerId timer) override;
   int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) override;
-  void Print_Window(QWidget& window) override;
+  using Platform::Print_Window;
+  void Print_Window(QWidget& window, const std::string& document_name) override;
   void Print_Text(const std::vector<TextPage>& pages) override;
   void Beep() override;
   void Randomize(double seed) override { random_.Seed(seed); }

@@ -84,8 +84,8 @@ TEST_F(CalendarMenuTest, F1OpensTheHelpFromTheMainWindow) {
 
 TEST_F(CalendarMenuTest, TheEntriesWhoseWindowsComeLaterStandDisabledOnBoth) {
   Start_Program();
-  for (const char* name : {"mnuNewLog", "mnuOpenLog", "mnuSaveLog", "mnuSaveLogAs", "mnuPrintLog", "mnuPrintCalendar",
-                           "mnuTaskEventInfo", "mnuAddNewTaskEventToLog", "mnuAddNewGroupMember",
+  for (const char* name : {"mnuNewLog", "mnuOpenLog", "mnuSaveLog", "mnuSaveLogAs", "mnuPrintLog", "mnuTaskEventInfo",
+                           "mnuAddNewTaskEventToLog", "mnuAddNewGroupMember",
                            "mnuDeleteATaskEvent", "mnuDeleteGroupMember", "mnuAdd", "mnuChange", "mnuDelete"}) {
     EXPECT_FALSE(Menu(main(), name)->isEnabled()) << name;
     EXPECT_FALSE(Menu(large(), name)->isEnabled()) << name;
@@ -94,6 +94,21 @@ TEST_F(CalendarMenuTest, TheEntriesWhoseWindowsComeLaterStandDisabledOnBoth) {
   EXPECT_FALSE(Menu(large(), "mnuSchedulerReminder")->isEnabled());
   EXPECT_TRUE(Menu(main(), "mnuContents")->isEnabled());
   EXPECT_TRUE(Menu(large(), "mnuContents")->isEnabled());
+}
+
+TEST_F(CalendarMenuTest, CtrlF2PrintsTheCalendarFromBothWindows) {
+  Start_Program();
+  machine().Answer_Next(platform::vbOK, "Print Calendar");
+  Press_Keys(large(), QKeySequence("Ctrl+F2"));
+  ASSERT_EQ(machine().Print_Jobs().size(), 1u);
+  Press_Keys(large(), QKeySequence(Qt::Key_F4));
+  ASSERT_TRUE(main().isVisible());
+  machine().Answer_Next(platform::vbOK, "Print Calendar");
+  Press_Keys(main(), QKeySequence("Ctrl+F2"));
+  ASSERT_EQ(machine().Print_Jobs().size(), 2u);
+  EXPECT_EQ(machine().Print_Jobs()[0].document_name, machine().Print_Jobs()[1].document_name);
+  EXPECT_TRUE(Menu(main(), "mnuPrintCalendar")->isEnabled());
+  EXPECT_TRUE(Menu(large(), "mnuPrintCalendar")->isEnabled());
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 // The harness itself, and the one place where unhandled failures are caught: the event dispatch.
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QTest>
 
 #include "core/runtime_failure.h"
 #include "core/sequential_file.h"
 #include "platform/platform.h"
+#include "platform/qt_platform.h"
 #include "support/window_fixture.h"
 
 namespace orrivane {
@@ -81,6 +83,26 @@ TEST_F(DispatchTest, PrintedPagesAreKeptAsImagesWithTheirTexts) {
   Machine().Print_Window(window);
   EXPECT_EQ(machine().Print_Jobs().size(), 2u);
   EXPECT_EQ(machine().Print_Jobs()[1].pages[0].size(), QSize(100, 50));
+}
+
+TEST_F(DispatchTest, APrintedWindowKeepsTheNameOfItsDocument) {
+  QWidget window;
+  window.resize(100, 50);
+  Machine().Print_Window(window, "Orrivane-calendar-March-2024");
+  Machine().Print_Window(window);
+  ASSERT_EQ(machine().Print_Jobs().size(), 2u);
+  EXPECT_EQ(machine().Print_Jobs()[0].document_name, "Orrivane-calendar-March-2024");
+  EXPECT_EQ(machine().Print_Jobs()[1].document_name, "");
+}
+
+TEST_F(DispatchTest, WithoutAPrinterANamedWindowGoesToAPdfOfThatNameInTheCurrentFolder) {
+  if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "this machine has a printer";
+  platform::QtPlatform real;
+  QWidget window;
+  window.resize(300, 200);
+  real.Print_Window(window, "Orrivane-calendar-March-2024");
+  EXPECT_TRUE(File_Present("Orrivane-calendar-March-2024.pdf"));
+  EXPECT_TRUE(Read_File("Orrivane-calendar-March-2024.pdf").starts_with("%PDF"));
 }
 
 TEST_F(DispatchTest, BeepsAreCountedAndTheSeededFractionsRepeat) {

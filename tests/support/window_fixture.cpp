@@ -157,10 +157,12 @@ int FakePlatform::Message_Box(const std::string& text, int buttons, int icon, co
   return answer;
 }
 
-void FakePlatform::Print_Window(QWidget& window) { jobs_.push_back({{window.grab().toImage()}, {}}); }
+void FakePlatform::Print_Window(QWidget& window, const std::string& document_name) {
+  jobs_.push_back({{window.grab().toImage()}, {}, document_name});
+}
 
 void FakePlatform::Print_Text(const std::vector<platform::TextPage>& pages) {
-  jobs_.push_back({platform::Render_Text_Pages(pages, 72), pages});
+  jobs_.push_back({platform::Render_Text_Pages(pages, 72), pages, {}});
 }
 
 void FakePlatform::Randomize(double seed) {

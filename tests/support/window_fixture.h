@@ -35,6 +35,7 @@ struct ShownMessage {
 struct PrintJob {
   std::vector<QImage> pages;
   std::vector<platform::TextPage> text;  // empty for a window image
+  std::string document_name;             // as the window image was sent, empty for text
 };
 
 class FakePlatform : public platform::Platform {
@@ -72,7 +73,8 @@ class FakePlatform : public platform::Platform {
   platform::TimerId Start_Timer(int interval_ms, std::function<void()> tick) override;
   void Stop_Timer(platform::TimerId timer) override;
   int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) override;
-  void Print_Window(QWidget& window) override;
+  using Platform::Print_Window;
+  void Print_Window(QWidget& window, const std::string& document_name) override;
   void Print_Text(const std::vector<platform::TextPage>& pages) override;
   void Beep() override { ++beeps_; }
   void Randomize(double seed) override;

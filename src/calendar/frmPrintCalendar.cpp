@@ -1,0 +1,67 @@
+#include "calendar/frmPrintCalendar.h"
+
+#include "platform/controls.h"
+
+namespace orrivane {
+
+namespace {
+
+using engine::kGridColumns;
+
+// The page: a landscape sheet of 11 by 8.5 inches at 96 pixels to the inch, and its parts.
+constexpr QSize kPage{1056, 816};
+constexpr int kMargin = 24;
+constexpr QRect kCalendarName{kMargin, 16, kPage.width() - 2 * kMargin, 32};
+constexpr QRect kMonthYear{kMargin, 50, kPage.width() - 2 * kMargin, 48};
+constexpr QRect kGrid{kMargin, 108, kPage.width() - 2 * kMargin, kPage.height() - 108 - kMargin};
+// The day heads' band holds the one-letter head above the full name.
+constexpr int kHeadBand = 64;
+constexpr int kLetterHeight = 30;
+constexpr int kDateFontPx = 40;
+
+constexpr const char* kWeekdayNames[kGridColumns] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                     "Thursday", "Friday", "Saturday"};
+
+void Set_Font(QLabel* label, int pixel_size) {
+  QFont font = label->font();
+  font.setPixelSize(pixel_size);
+  font.setBold(true);
+  label->setFont(font);
+}
+
+}  // namespace
+
+frmPrintCalendar::frmPrintCalendar() : face(this, CalendarFace::Sides::None) {
+  setObjectName("frmPrintCalendar");
+  controls::Set_Back_Color(this, 0xFFFFFF);  // the paper
+  lblCalendarNameOverCalendar = controls::Make_Label(this, "lblCalendarNameOverCalendar");
+  lblMonthYear = controls::Make_Label(this, "lblMonthYear");
+  for (int i = 0; i < kGridColumns; ++i) {
+    lblCalendarWeekDayName2[i] =
+        controls::Make_Label(this, controls::Array_Name("lblCalendarWeekDayName2", i), kWeekdayNames[i]);
+  }
+  Place_Controls();
+}
+
+void frmPrintCalendar::Place_Controls() {
+  setFixedSize(kPage);
+  lblCalendarNameOverCalendar->setGeometry(kCalendarName);
+  lblMonthYear->setGeometry(kMonthYear);
+  Set_Font(lblCalendarNameOverCalendar, 24);
+  Set_Font(lblMonthYear, 36);
+  for (QLabel* heading : {lblCalendarNameOverCalendar, lblMonthYear}) heading->setAlignment(Qt::AlignCenter);
+
+  face.Place_Grid(kGrid, kDateFontPx, kHeadBand);
+  for (int i = 0; i < kGridColumns; ++i) {
+    QLabel* letter = face.lblCalendarWeekdayName[i];
+    const QRect column = letter->geometry();
+    letter->setGeometry(column.x(), column.y(), column.width(), kLetterHeight);
+    Set_Font(letter, 24);
+    QLabel* name = lblCalendarWeekDayName2[i];
+    name->setGeometry(column.x(), column.y() + kLetterHeight, column.width(), column.height() - kLetterHeight);
+    name->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    Set_Font(name, 18);
+  }
+}
+
+}  // namespace orrivane
