@@ -1,5 +1,6 @@
 #include "calendar/frmPrintCalendar.h"
 
+#include "engine/calendar_engine.h"
 #include "platform/controls.h"
 
 namespace orrivane {
@@ -19,9 +20,6 @@ constexpr int kHeadBand = 64;
 constexpr int kLetterHeight = 30;
 constexpr int kDateFontPx = 40;
 
-constexpr const char* kWeekdayNames[kGridColumns] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                                     "Thursday", "Friday", "Saturday"};
-
 void Set_Font(QLabel* label, int pixel_size) {
   QFont font = label->font();
   font.setPixelSize(pixel_size);
@@ -38,7 +36,8 @@ frmPrintCalendar::frmPrintCalendar() : face(this, CalendarFace::Sides::None) {
   lblMonthYear = controls::Make_Label(this, "lblMonthYear");
   for (int i = 0; i < kGridColumns; ++i) {
     lblCalendarWeekDayName2[i] =
-        controls::Make_Label(this, controls::Array_Name("lblCalendarWeekDayName2", i), kWeekdayNames[i]);
+        controls::Make_Label(this, controls::Array_Name("lblCalendarWeekDayName2", i),
+                             QString::fromStdString(engine::Define_Weekday(i + 1, "Get Weekday Name").text()));
   }
   Place_Controls();
 }

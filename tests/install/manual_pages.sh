@@ -9,7 +9,7 @@ done
 if ! command -v man >/dev/null 2>&1; then
   echo "man is missing (Debian package man-db): the pages are not rendered" >&2
   finish
-  exit 0
+  exit 77
 fi
 for page in orrivane orrivane-cal; do
   complaints=$(MANWIDTH=80 man --warnings -l "$root/$mandir/man1/$page.1" 2>&1 >/dev/null) ||

@@ -13,6 +13,7 @@
 #include "holidays/frmFindAHoliday.h"
 #include "platform/window_registry.h"
 #include "shell/frmAbout.h"
+#include "shell/frmHelpContents.h"
 #include "shell/frmLiscense.h"
 #include "shell/frmOpenFile.h"
 #include "shell/frmSaveFile.h"
@@ -63,6 +64,7 @@ TEST_F(Screenshots, TheCalendarWindowsAndTheAboutWindow) {
   Keep(find, "frmFindAHoliday");
   Keep(Window<frmOpenFile>(), "frmOpenFile");
   Keep(Window<frmSaveFile>(), "frmSaveFile");
+  Keep(Window<frmHelpContents>(), "frmHelpContents");
 }
 
 }  // namespace
