@@ -1,0 +1,133 @@
+#pragma once
+// "Organizer": the log as a chart of one six-hour period of one day, a row for each group
+// member and a column for each ten minutes; beside it the group members, the task list of one
+// of them with its date filter, and the file the log belongs to. It owns the log procedures:
+// opening and saving log files and the question about unsaved changes.
+//
+// The window's procedures are split by role, one file each: this window's controls and menu
+// (frmScheduler_Reminder.cpp), the chart (frmScheduler_ReminderChart.cpp), the task list, its
+// filter and showing a task (frmScheduler_ReminderTasks.cpp), the log files
+// (frmScheduler_ReminderLog.cpp).
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/value.h"
+#include "organizer/chart_geometry.h"
+#include "platform/MenuTree.h"
+
+namespace orrivane {
+
+class frmScheduler_Reminder : public QMainWindow {
+  Q_OBJECT
+ public:
+  frmScheduler_Reminder();
+
+  // ---- Controls: the chart ------------------------------------------------------------------
+  std::array<QLabel*, organizer::kScreenChartRows> lblChartGroupMemberName{};
+  std::array<QLabel*, organizer::kScreenChartCells> lblChartHistoryList{};  // 36 x row + column
+  std::array<QLabel*, organizer::kChartHeads> lblChartHour{};
+  QLabel* lblChartBackground;  // the white ground under the cells, which are transparent when empty
+  QLabel* lblTimePeriod;  // the view on show, "Morning, March 5, 2001"; its only memory
+  QPushButton* cmdEarlier;
+  QPushButton* cmdLater;
+  QScrollBar* scrChart;  // its value: the member of the first row, as an index of lstListOfPeople
+
+  // ---- Controls: members, the task list and its filter -----------------------------------------
+  QLabel* lblListOfPeople;
+  QListWidget* lstListOfPeople;  // sorted
+  QPushButton* cmdShowTaskList;
+  QLabel* lblGroupMemberName;
+  QListWidget* lstScheduleList;  // sorted: "2001, 03Mar 05, 14:30 Dentist, #1"
+  QPushButton* cmdViewTaskInformation;
+  QRadioButton* optDisplayAll;
+  QRadioButton* optDisplayOnlyFilteredTasks;
+  QGroupBox* fraDisplayOnlyTasksEvents;
+  QCheckBox* chkStartTimeDate;   // 0 off, 1 on, 2 greyed
+  QCheckBox* chkFinishTimeDate;
+  QLabel* lblAfter;
+  QLabel* lblAfterRange;  // "14:00, Mar. 5, 2001" or "No Date Selected": the bound's only store
+  QLabel* lblBefore;
+  QLabel* lblBeforeRange;
+  QPushButton* cmdSelect;  // "Change...": the filter window
+
+  // ---- Controls: the file and the way out ---------------------------------------------------
+  QLabel* lblFileNameLabel;
+  QLabel* lblFileName;
+  QPushButton* cmdCloseScheduler;
+  std::unique_ptr<MenuTree> menu;
+
+  // 1 while the working copy holds changes that no log file has.
+  int Save_File_Prompt_Flag = 0;
+
+  // ---- The chart (frmScheduler_ReminderChart.cpp) --------------------------------------------
+  void Refresh_Organizer_Screen(std::string_view Calling_Procedure);
+  void Move_To_Earlier_Time_Period();
+  void Move_To_Later_Time_Period();
+  void scrChart_Change();
+  // "Put" keeps the record number of the task that owns a cell (-1 for none); "Get" answers it.
+  Value Chart_History_List_Content_Tracker(int Element_Number, const std::string& Action_To_Perform,
+                                           const Value& Content = {});
+  void lblChartHistoryList_Click(int Index);
+  void Print_Window();
+
+  // ---- The task list and showing a task (frmScheduler_ReminderTasks.cpp) ----------------------
+  void Display_A_Persons_TaskList();
+  void lstListOfPeople_Click();
+  void cmdShowTaskList_Click();
+  void lstScheduleList_Click();
+  void lstScheduleList_DblClick();
+  void cmdViewTaskInformation_Click();
+  void optDisplayAll_Click();
+  void optDisplayOnlyFilteredTasks_Click();
+  void chkStartTimeDate_Click();
+  void chkFinishTimeDate_Click();
+  void cmdSelect_Click();
+  // Finds the record that the origin points at and shows it in frmTaskInformation.
+  void View_Task_Event_Information(std::string_view Calling_Procedure, const Value& Control_Array_Index);
+
+  // ---- The log files (frmScheduler_ReminderLog.cpp) -----------------------------------------
+  void Open_New_Schedule();
+  void Open_Schedule_File();
+  void Save_Schedule();
+  void Quick_Schedule_File_Save();
+  void Activate_Save_File_Window();
+  void Show_Open_Log_Window(std::string_view caller);
+  // mnuSave here and mnuSaveLog of both calendar windows, together.
+  void Set_mnuSave(bool enabled);
+  // The user's answer (6 Yes, 7 No, 2 Cancel), or nothing where no question was asked.
+  std::optional<int> Prompt_To_Save_Schedule_File(std::string_view Calling_Sub_Origin);
+  void Form_Unload();
+  void cmdCloseScheduler_Click();
+
+ protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Build_Chart();
+  void Build_Lists();
+  void Build_Filter();
+  void Build_Menu();
+  void Place_Controls();
+  // Each role connects its own controls and menu entries, in its own file.
+  void Connect_Chart();
+  void Connect_Tasks();
+  void Connect_Log();
+  void Form_Activate();
+
+  std::array<Value, organizer::kScreenChartCells> chart_owners_{};  // Chart_History_List_Content_Tracker
+};
+
+}  // namespace orrivane

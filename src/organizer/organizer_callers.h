@@ -1,0 +1,46 @@
+#pragma once
+// The caller identities of the Organizer's procedures. Each is compared exactly, case included,
+// and any other text selects nothing.
+#include <string_view>
+
+namespace orrivane::organizer {
+
+// ---- Refresh_Organizer_Screen: which view to show --------------------------------------------
+inline constexpr std::string_view kCmdEarlierClick = "cmdEarlier_Click()";
+inline constexpr std::string_view kCmdLaterClick = "cmdLater_Click()";
+inline constexpr std::string_view kSelectTimePeriodDisplay = "frmSelectTimePeriod.cmdDisplay_Click()";
+inline constexpr std::string_view kMultiPurposePrint5 = "frmMultiPurposeForm.cmdPrint_5_Click()";
+// These show the view of lblTimePeriod again, or the present moment while it is empty.
+inline constexpr std::string_view kFormActivate = "Form_Activate()";
+inline constexpr std::string_view kOpenScheduleFile = "frmOpenFile.Open_Schedule_File()";
+inline constexpr std::string_view kNewScheduleClick = "mnuNewSchedule_Click()";
+inline constexpr std::string_view kAddThisEvent =
+    "frmAddNewAppointment_Reminder.cmdAddThisEvent_AppointmentToTheSchedule_Click()";
+inline constexpr std::string_view kScrChartChange = "scrChart_Change()";
+inline constexpr std::string_view kDeleteASelectedRecord = "Delete_A_Selected_Record(Calling_Sub_Origin)";
+inline constexpr std::string_view kDeleteAGroupMember = "Delete_A_Group_Member(Calling_Sub_Origin)";
+inline constexpr std::string_view kSaveChangesToRecord = "frmTaskInformation.Save_Changes_To_Record";
+inline constexpr std::string_view kMultiPurposeAdd = "frmMultiPurposeForm.cmdAdd_Click()";
+inline constexpr std::string_view kMultiPurposeDelete = "frmMultiPurposeForm.cmdDelete_Click()";
+
+inline constexpr std::string_view kRefreshingOrigins[] = {
+    kFormActivate,          kOpenScheduleFile,    kNewScheduleClick,      kAddThisEvent,
+    kScrChartChange,        kDeleteASelectedRecord, kDeleteAGroupMember,  kSaveChangesToRecord,
+    kMultiPurposeAdd,       kMultiPurposeDelete,
+};
+
+// ---- Prompt_To_Save_Schedule_File: who asks --------------------------------------------------
+// Leaving (Yes and No only): kTerminateThisProgram, kOrganizerFormUnload. Starting another log
+// (Yes, No and Cancel): kNewScheduleClick, kOpenScheduleFile.
+inline constexpr std::string_view kTerminateThisProgram = "Form1.Terminate_This_Program(PlaceOfOrigin)";
+inline constexpr std::string_view kOrganizerFormUnload = "Form_Unload(Cancel As Integer)";
+
+// ---- View_Task_Event_Information: where the record number comes from --------------------------
+inline constexpr std::string_view kLstScheduleListDblClick = "lstScheduleList_DblClick()";
+inline constexpr std::string_view kCmdViewTaskInformationClick = "cmdViewTaskInformation_Click()";
+inline constexpr std::string_view kCboAppointmentsClick = "cboAppointments_Click(Index As Integer)";
+inline constexpr std::string_view kReminderWindowMoreDetails = "frmReminderWindow.cmdMoreDetails_Click()";
+inline constexpr std::string_view kMultiPurposeDelete1 = "frmMultiPurposeForm.cmdDelete_1_Click()";
+inline constexpr std::string_view kLblChartHistoryListClick = "lblChartHistoryList_Click(Index As Integer)";
+
+}  // namespace orrivane::organizer
