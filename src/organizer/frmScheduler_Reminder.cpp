@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 
+#include "core/runtime_failure.h"
 #include "platform/controls.h"
 
 namespace orrivane {
@@ -212,6 +213,16 @@ void frmScheduler_Reminder::Place_Controls() {
 }
 
 void frmScheduler_Reminder::cmdCloseScheduler_Click() { hide(); }
+
+Value frmScheduler_Reminder::Chart_History_List_Content_Tracker(int Element_Number,
+                                                                const std::string& Action_To_Perform,
+                                                                const Value& Content) {
+  if (Element_Number < 0 || Element_Number >= organizer::kScreenChartCells) throw RuntimeFailure(kSubscriptOutOfRange);
+  Value& owner = chart_owners_[static_cast<std::size_t>(Element_Number)];
+  if (Action_To_Perform == "Put") owner = Content;
+  if (Action_To_Perform == "Get") return owner;
+  return {};
+}
 
 bool frmScheduler_Reminder::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) Form_Activate();
