@@ -94,6 +94,8 @@ void frmScheduler_Reminder::Open_Schedule_File() {
   Set_mnuSave(true);
 }
 
+// A name the machine refuses is not told either: from opening the file on, a failure is passed
+// over, and the log counts as saved.
 void frmScheduler_Reminder::Save_Schedule() {
   frmSaveFile& save = Window<frmSaveFile>();
   const std::string typed = Local_Name(save.txtFileName->text());
@@ -108,7 +110,7 @@ void frmScheduler_Reminder::Save_Schedule() {
   try {
     organizer::Copy_Log(organizer::kScheduleFile, path);
   } catch (const RuntimeFailure&) {
-    // A failure from opening the file on is passed over and the log counts as saved.
+    // passed over: the save goes on to its end
   }
   Save_File_Prompt_Flag = 0;
   Store_Log_File(name, folder);

@@ -569,6 +569,31 @@ TEST_F(LogFilesTest, OpeningALogReplacesTheWorkingCopyAndKeepsItsFile) {
   EXPECT_EQ(Read_File("week.sdl"), kDentistBytes + kBenMarker28Lines);
 }
 
+TEST_F(LogFilesTest, ALogSavedAndOpenedAgainHasTheRemindersOfItsTasksInLogOrder) {
+  Start_With_Organizer();
+  const std::vector<std::pair<const char*, int>> tasks = {{"Dentist", 1}, {"Gym", 0}, {"Vet", 1}, {"Bank", 0}};
+  std::string reminders;
+  for (const auto& [name, status] : tasks) {
+    organizer::ScheduleRecord task = Dentist_Task();
+    task.Task_Name = name;
+    task.Reminder_Status = status;
+    const std::size_t before = Read_File("Schedule.tmp").size();
+    organizer::Append_Record(organizer::kScheduleFile, task);
+    if (status == 1) reminders += Read_File("Schedule.tmp").substr(before);  // the record as it was written
+  }
+  organizer::Generate_Person_Marker_Record(organizer::kScheduleFile, "Ben");
+  organizer().Save_File_Prompt_Flag = 1;
+  Save_As("week");
+  Trigger(organizer(), "mnuNewSchedule");
+  Open_Log("week.sdl");
+  std::vector<std::string> names;
+  organizer::For_Each_Record(organizer::kTaskReminderFile, [&names](const organizer::ScheduleRecord& record) {
+    names.push_back(record.Task_Name.text());
+  });
+  EXPECT_EQ(names, (std::vector<std::string>{"Dentist", "Vet"}));
+  EXPECT_EQ(Read_File("TRemin.tmp"), reminders);
+}
+
 TEST_F(LogFilesTest, OpeningFromAnotherFolderKeepsThatFolder) {
   QDir().mkdir("logs");
   Write_File("logs/week.sdl", kDentistBytes);
