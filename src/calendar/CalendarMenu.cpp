@@ -5,6 +5,7 @@
 #include "calendar/frmSelectMonth.h"
 #include "elapsed/frmFindDateDifference.h"
 #include "holidays/frmFindAHoliday.h"
+#include "organizer/frmScheduler_Reminder.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
 #include "shell/frmAbout.h"
@@ -26,6 +27,10 @@ void Print_Calendar() { Window<Form1>().Print_Calendar(); }
 void Select_Month() { controls::Show_In_Front(Window<frmSelectMonth>()); }
 void Find_A_Dates_Weekday() { Window<frmFindADate>().show(); }
 void Find_Holiday_Dates() { controls::Show_In_Front(Window<frmFindAHoliday>()); }
+void New_Log() { Window<frmScheduler_Reminder>().Open_New_Schedule(); }
+void Save_Log() { Window<frmScheduler_Reminder>().Quick_Schedule_File_Save(); }
+void Save_Log_As() { Window<frmScheduler_Reminder>().Activate_Save_File_Window(); }
+void Organizer() { controls::Show_In_Front(Window<frmScheduler_Reminder>()); }
 void Find_Time_Length() { controls::Show_In_Front(Window<frmFindDateDifference>()); }
 void Help_Contents() { controls::Show_In_Front(Window<frmHelpContents>()); }
 void License() { Window<frmLiscense>().show(); }
@@ -47,12 +52,15 @@ struct CalendarMenuRow {
 constexpr bool kSubmenu = true;
 constexpr bool kLater = true;
 
+// Enabled only while the log has a file of its own (Set_mnuSave of the Organizer).
+constexpr const char* kSaveLog = "mnuSaveLog";
+
 constexpr CalendarMenuRow kCalendarMenu[] = {
     {"", "mnuFile", "mnuFile", "&File", ""},
-    {"mnuFile", "mnuNewLog", "mnuNewLog", "New Log", "", nullptr, false, kLater},
-    {"mnuFile", "mnuOpenLog", "mnuOpenLog", "Open Log...", "Ctrl+O", nullptr, false, kLater},
-    {"mnuFile", "mnuSaveLog", "mnuSaveLog", "Save Log", "Ctrl+S", nullptr, false, kLater},
-    {"mnuFile", "mnuSaveLogAs", "mnuSaveLogAs", "Save Log As...", "Ctrl+V", nullptr, false, kLater},
+    {"mnuFile", "mnuNewLog", "mnuNewLog", "New Log", "", New_Log},
+    {"mnuFile", "mnuOpenLog", "mnuOpenLog", "Open Log...", "Ctrl+O"},  // each window names itself to the open window
+    {"mnuFile", kSaveLog, kSaveLog, "Save Log", "Ctrl+S", Save_Log},
+    {"mnuFile", "mnuSaveLogAs", "mnuSaveLogAs", "Save Log As...", "Ctrl+V", Save_Log_As},
     {"mnuFile", "mnuPrintLog", "mnuPrintLog", "Print Log...", "F2", nullptr, false, kLater},
     {"mnuFile", "mnuPrintCalendar", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2", Print_Calendar},
     {"mnuFile", "mnuExit", "mnuExit", "Exit", "Ctrl+Q"},
@@ -78,7 +86,7 @@ constexpr CalendarMenuRow kCalendarMenu[] = {
      Find_A_Dates_Weekday},
     {"mnuTools", "mnuFindHolidayDates", "mnuFindHolidayDates", "Find Holiday Dates...", "Ctrl+H",
      Find_Holiday_Dates},
-    {"mnuTools", "mnuScheduler_Reminder", "mnuSchedulerReminder", "Organizer...", "F3", nullptr, false, kLater},
+    {"mnuTools", "mnuScheduler_Reminder", "mnuSchedulerReminder", "Organizer...", "F3", Organizer},
     {"mnuTools", "mnuOptions", kAbsent, "Options...", "F9"},
     {"mnuTools", "mnuFindTimeLengthBetweenDates", "mnuFindTimeLengthBetweenDates", "Find Time Length Between Dates",
      "Ctrl+T", Find_Time_Length},
@@ -119,6 +127,7 @@ void Connect_Shared_Calendar_Entries(const MenuTree& menu, CalendarWindow window
     const char* name = Name_In(row, window);
     if (name != kAbsent && row.shared != nullptr) menu.On(name, row.shared);
   }
+  menu.Action(kSaveLog)->setEnabled(false);  // the log has no file yet
 }
 
 }  // namespace orrivane

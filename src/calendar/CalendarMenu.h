@@ -13,8 +13,9 @@ enum class CalendarWindow { Form1, LargeCalendar };
 // The entries of the menu of `window`, in their order.
 std::vector<MenuEntry> Calendar_Menu_Entries(CalendarWindow window);
 
-// Connects the entries whose procedure is the same in both windows. Each window connects the
-// entries that act on the window itself (its size, the swap, Exit with its own identity).
+// Connects the entries whose procedure is the same in both windows, and disables Save Log until
+// the log has a file. Each window connects the entries that act on the window itself (its size,
+// the swap, Exit and Open Log with its own identity).
 void Connect_Shared_Calendar_Entries(const MenuTree& menu, CalendarWindow window);
 
 }  // namespace orrivane

@@ -8,9 +8,11 @@
 #include "calendar/frmLargeCalendar.h"
 #include "calendar/frmSelectMonth.h"
 #include "holidays/frmFindAHoliday.h"
+#include "organizer/frmScheduler_Reminder.h"
 #include "platform/controls.h"
 #include "platform/message_box.h"
 #include "platform/window_registry.h"
+#include "shell/shell_callers.h"
 
 namespace orrivane {
 
@@ -97,7 +99,6 @@ void Form1::Build_Controls() {
     button->setGeometry(row.place);
     this->*row.member = button;
   }
-  cmdOrganizer->setEnabled(false);  // its window is not part of the program yet
   Style_Controls();
   setFixedSize(920, 600);
   face.Place(QRect(190, 60, 540, 330), QRect(12, 90, 166, 150), QRect(742, 90, 166, 150), 20);
@@ -136,10 +137,12 @@ void Form1::Connect_Controls() {
   connect(cmdDisplayMonthOnCalendar, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmSelectMonth>()); });
   connect(cmdFindADatesWeekday, &QPushButton::clicked, this, [] { Window<frmFindADate>().show(); });
   connect(cmdFindHolidayDates, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmFindAHoliday>()); });
+  connect(cmdOrganizer, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmScheduler_Reminder>()); });
   connect(cmdExit, &QPushButton::clicked, this, [this] { Terminate_This_Program(calendar::kForm1CmdExitClick); });
 
   Connect_Shared_Calendar_Entries(*menu, CalendarWindow::Form1);
   menu->On("mnuExit", [this] { Terminate_This_Program(calendar::kForm1MnuExit); });
+  menu->On("mnuOpenLog", [] { Window<frmScheduler_Reminder>().Show_Open_Log_Window(shell::kForm1OpenLogCaller); });
   menu->On("mnuOptions", [this] { Show_Options_Notice(); });
   menu->On("mnuMinimizeToTaskbar", [this] { showMinimized(); });
   menu->On("mnuLargeWindow", [this] { Activate_Large_Calendar(); });

@@ -8,12 +8,15 @@
 #include "calendar/frmLargeCalendar.h"
 #include "calendar/month_grid.h"
 #include "organizer/date_time_text.h"
+#include "organizer/frmScheduler_Reminder.h"
 #include "organizer/log_file.h"
+#include "organizer/organizer_callers.h"
 #include "platform/controls.h"
 #include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
 #include "shell/frmAbout.h"
+#include "shell/frmSaveFile.h"
 
 namespace orrivane {
 
@@ -48,6 +51,7 @@ void Form1::Start_Program() {
   Window<frmAbout>().show();
   organizer::Empty_Working_Log();
   Display_Todays_Date();
+  Window<frmScheduler_Reminder>().Save_File_Prompt_Flag = 0;
   const std::string today = Machine().System_Date();
   const double month = organizer::Parse_Date(today, "Month").number();
   const double year = organizer::Parse_Date(today, "Year").number();
@@ -83,6 +87,9 @@ void Form1::Terminate_This_Program(std::string_view PlaceOfOrigin) {
   if (PlaceOfOrigin != calendar::kFormUnload) {
     if (platform::Show_Message(kExitQuestion) != platform::vbYes) return;
   }
+  Window<frmScheduler_Reminder>().Prompt_To_Save_Schedule_File(organizer::kTerminateThisProgram);
+  // The user may still be naming the log: the working files stay until that window has gone.
+  while (Window<frmSaveFile>().isVisible()) Machine().Yield();
   organizer::Delete_Working_Log();
   Machine().End_Process(0);
 }

@@ -10,9 +10,11 @@
 #include "calendar/calendar_callers.h"
 #include "calendar/task_overlay.h"
 #include "engine/calendar_engine.h"
+#include "organizer/frmScheduler_Reminder.h"
 #include "organizer/log_file.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
+#include "shell/shell_callers.h"
 
 namespace orrivane {
 
@@ -93,6 +95,8 @@ void frmLargeCalendar::Connect_Controls() {
           [] { Window<Form1>().Terminate_This_Program(calendar::kLargeCalendarCmdExitClick); });
   Connect_Shared_Calendar_Entries(*menu, CalendarWindow::LargeCalendar);
   menu->On("mnuExit", [] { Window<Form1>().Terminate_This_Program(calendar::kLargeCalendarMnuExitClick); });
+  menu->On("mnuOpenLog",
+           [] { Window<frmScheduler_Reminder>().Show_Open_Log_Window(shell::kLargeCalendarOpenLogCaller); });
   menu->On("mnuMinimizeToTaskbar", [this] { setWindowState(Qt::WindowMinimized); });
   menu->On("mnuMaximize", [this] { setWindowState(Qt::WindowMaximized); });
   menu->On("mnuWindowed", [this] { setWindowState(Qt::WindowNoState); });

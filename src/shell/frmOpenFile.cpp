@@ -5,6 +5,7 @@
 #include "core/sequential_file.h"
 #include "holidays/frmFindAHoliday.h"
 #include "holidays/holiday_list_file.h"
+#include "organizer/frmScheduler_Reminder.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
 #include "shell/shell_callers.h"
@@ -86,7 +87,9 @@ void frmOpenFile::Dispatch_By_Caller() {
     case shell::OpenFileProcedure::Open_Holiday_List_File:
       Open_Holiday_List_File();
       break;
-    case shell::OpenFileProcedure::Open_Schedule_File:  // reading a log comes with the Organizer
+    case shell::OpenFileProcedure::Open_Schedule_File:
+      Window<frmScheduler_Reminder>().Open_Schedule_File();
+      break;
     case shell::OpenFileProcedure::None:
       break;
   }

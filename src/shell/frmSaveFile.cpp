@@ -5,6 +5,7 @@
 #include "core/sequential_file.h"
 #include "holidays/frmFindAHoliday.h"
 #include "holidays/holiday_list_file.h"
+#include "organizer/frmScheduler_Reminder.h"
 #include "platform/controls.h"
 #include "platform/message_box.h"
 #include "platform/platform.h"
@@ -67,7 +68,9 @@ void frmSaveFile::cmdSave_Click() {
     case shell::SaveFileProcedure::Save_Holiday_List:
       Save_Holiday_List();
       break;
-    case shell::SaveFileProcedure::Save_Schedule:  // writing a log comes with the Organizer
+    case shell::SaveFileProcedure::Save_Schedule:
+      Window<frmScheduler_Reminder>().Save_Schedule();
+      break;
     case shell::SaveFileProcedure::None:
       break;
   }
