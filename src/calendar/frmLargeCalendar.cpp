@@ -62,6 +62,8 @@ void frmLargeCalendar::Build_Controls() {
   cboShowTaskListFor = new DropDownComboBox(body, [this] { cboShowTaskListFor_DropDown(); });
   cboShowTaskListFor->setObjectName("cboShowTaskListFor");
   cboShowTaskListFor->setEditable(true);
+  cboShowTaskListFor->setCompleter(nullptr);  // a name is taken as typed
+  cboShowTaskListFor->setInsertPolicy(QComboBox::NoInsert);
   for (int i = 0; i < engine::kGridCells; ++i) {
     cboAppointments[i] = new QComboBox(body);
     cboAppointments[i]->setObjectName(controls::Array_Name("cboAppointments", i));

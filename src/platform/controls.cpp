@@ -44,6 +44,16 @@ void Set_Back_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::
 unsigned Fore_Color(const QWidget* widget) { return Read(widget, "ForeColor", kButtonText); }
 unsigned Back_Color(const QWidget* widget) { return Read(widget, "BackColor", kButtonFace); }
 
+QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable) {
+  auto* combo = Make<QComboBox>(parent, name);
+  combo->setEditable(editable);
+  if (editable) {
+    combo->setCompleter(nullptr);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+  }
+  return combo;
+}
+
 void Show_In_Front(QWidget& window) {
   window.show();
   window.raise();
