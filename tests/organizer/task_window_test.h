@@ -9,7 +9,9 @@
 
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/frmTaskInformation.h"
+#include "organizer/log_file.h"
 #include "organizer/log_samples.h"
+#include "organizer/task_list.h"
 #include "organizer/working_files.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
