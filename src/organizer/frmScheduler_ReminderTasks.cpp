@@ -30,7 +30,14 @@ constexpr char kFreshAfterMinute[] = "00";
 constexpr char kFreshBeforeMinute[] = "59";
 
 // A check box's value as the program reads it: 0 off, 1 on, 2 greyed.
-int Check_Value(const QCheckBox* box) { return static_cast<int>(box->checkState()); }
+int Check_Value(const QCheckBox* box) {
+  switch (box->checkState()) {
+    case Qt::Unchecked: return 0;
+    case Qt::Checked: return 1;
+    case Qt::PartiallyChecked: return 2;
+  }
+  return 0;
+}
 
 void Set_Check_Value(QCheckBox* box, Qt::CheckState state) {
   // Greyed is set by the program only: the user's clicks swap on and off.

@@ -20,7 +20,7 @@ class frmFilterTasksEventsDisplayedTest : public TaskWindowTest {
     Write_Log({});
     Open_Organizer();
     // The user sets the filter and opens the window with "Change...".
-    Click(organizer().optDisplayOnlyFilteredTasks);
+    Click_Option(organizer().optDisplayOnlyFilteredTasks);
     Trigger(organizer(), "cmdSelect");
     Process_Events();
     ASSERT_TRUE(window().isVisible());

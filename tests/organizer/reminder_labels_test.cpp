@@ -33,7 +33,7 @@ TEST(Reminder_Interval_Text, NineDaysStillTellHoursAndMinutes) {
 
 TEST(Reminder_Interval_Text, CountsAreAddedToZero) {
   EXPECT_EQ(Reminder_Interval_Text("01", "02", "05"), "1 Day, 2 Hrs, 5 Min");
-  EXPECT_EQ(Reminder_Interval_Text("0", "", 0), "");
+  EXPECT_EQ(Reminder_Interval_Text("0", Value(), 0), "");
 }
 
 TEST(Set_Reminder_Labels, OneReminderHasNoInterval) {

@@ -76,12 +76,19 @@ class TaskWindowTest : public WindowTest {
     QListWidgetItem* item = Item(list, text);
     if (item == nullptr) return;
     list->scrollToItem(item);
+    // The first press of a double click chooses the entry, the second opens it.
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(item).center());
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(item).center());
   }
   std::vector<std::string> Entries(const QListWidget* list) {
     std::vector<std::string> entries;
     for (int i = 0; i < list->count(); ++i) entries.push_back(list->item(i)->text().toStdString());
     return entries;
+  }
+
+  // An option is clicked on its round button: beside its caption a click falls on nothing.
+  void Click_Option(QWidget* option) {
+    QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(6, option->height() / 2));
   }
 
   // The user picks a member in the Organizer.
