@@ -44,16 +44,10 @@ class frmFilterTasksEventsDisplayedTest : public TaskWindowTest {
     const std::string before = Caption(organizer().lblBeforeRange);
     machine().Answer_Next(platform::vbOK, title);
     Set_Date_Filters();
-    ASSERT_EQ(machine().Messages().size(), 1u);
-    const testing::ShownMessage& shown = machine().Messages()[0];
-    EXPECT_EQ(shown.title, title);
-    EXPECT_EQ(shown.text, text);
-    EXPECT_EQ(shown.buttons, platform::vbOKOnly);
-    EXPECT_EQ(shown.icon, platform::vbExclamation);
+    Expect_Only_Message(Exclamation_Message(title, text));
     EXPECT_TRUE(window().isVisible());
     EXPECT_EQ(Caption(organizer().lblAfterRange), after);
     EXPECT_EQ(Caption(organizer().lblBeforeRange), before);
-    machine().Clear_Messages();
   }
 };
 

@@ -42,6 +42,14 @@ class frmScheduler_ReminderTasksTest : public TaskWindowTest {
   void Display_Only_Filtered() { Click_Option(organizer().optDisplayOnlyFilteredTasks); }
   void Display_All() { Click_Option(organizer().optDisplayAll); }
   void Show_Task_List() { Trigger(organizer(), "cmdShowTaskList"); }
+
+  // A click on a cell that no task owns, on a row captioned with `member`, answered with OK.
+  void Click_Empty_Cell(int row, int column, const std::string& member) {
+    controls::Set_Caption(organizer().lblChartGroupMemberName[static_cast<std::size_t>(row)], member);
+    organizer().Chart_History_List_Content_Tracker(organizer::Chart_Cell(row, column), "Put", -1);
+    machine().Answer_Next(platform::vbOK, "No Event Scheduled");
+    organizer().View_Task_Event_Information(organizer::kLblChartHistoryListClick, organizer::Chart_Cell(row, column));
+  }
 };
 
 // ---- The list of a member -----------------------------------------------------------------------
@@ -136,29 +144,18 @@ TEST_F(frmScheduler_ReminderTasksTest, AChartCellShowsTheTaskThatOwnsIt) {
 }
 
 TEST_F(frmScheduler_ReminderTasksTest, AnEmptyCellOnARowWithAMemberNamesThem) {
-  controls::Set_Caption(organizer().lblChartGroupMemberName[2], "Ben");
-  organizer().Chart_History_List_Content_Tracker(organizer::Chart_Cell(2, 35), "Put", -1);
-  machine().Answer_Next(platform::vbOK, "No Event Scheduled");
-  organizer().View_Task_Event_Information(organizer::kLblChartHistoryListClick, organizer::Chart_Cell(2, 35));
-  ASSERT_EQ(machine().Messages().size(), 1u);
-  const testing::ShownMessage& shown = machine().Messages()[0];
-  EXPECT_EQ(shown.text, "There is currently no event record available for Ben for this time period.");
-  EXPECT_EQ(shown.buttons, platform::vbOKOnly);
-  EXPECT_EQ(shown.icon, platform::vbNoIcon);
+  Click_Empty_Cell(2, 35, "Ben");
+  Expect_Only_Message({"No Event Scheduled",
+                       "There is currently no event record available for Ben for this time period.", platform::vbOKOnly,
+                       platform::vbNoIcon});
   EXPECT_FALSE(information().isVisible());
 }
 
 TEST_F(frmScheduler_ReminderTasksTest, AnEmptyCellOnAnEmptyRowSaysThisPerson) {
-  controls::Set_Caption(organizer().lblChartGroupMemberName[10], "");
-  organizer().Chart_History_List_Content_Tracker(organizer::Chart_Cell(10, 0), "Put", -1);
-  machine().Answer_Next(platform::vbOK, "No Event Scheduled");
-  organizer().View_Task_Event_Information(organizer::kLblChartHistoryListClick, organizer::Chart_Cell(10, 0));
-  ASSERT_EQ(machine().Messages().size(), 1u);
-  const testing::ShownMessage& shown = machine().Messages()[0];
-  EXPECT_EQ(shown.title, "No Event Scheduled");
-  EXPECT_EQ(shown.text, "There is currently no event record available for this person for this time period.");
-  EXPECT_EQ(shown.buttons, platform::vbOKOnly);
-  EXPECT_EQ(shown.icon, platform::vbNoIcon);
+  Click_Empty_Cell(10, 0, "");
+  Expect_Only_Message({"No Event Scheduled",
+                       "There is currently no event record available for this person for this time period.",
+                       platform::vbOKOnly, platform::vbNoIcon});
   EXPECT_FALSE(information().isVisible());
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "core/message.h"
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/frmTaskInformation.h"
 #include "organizer/log_file.h"
@@ -84,6 +85,17 @@ class TaskWindowTest : public WindowTest {
     std::vector<std::string> entries;
     for (int i = 0; i < list->count(); ++i) entries.push_back(list->item(i)->text().toStdString());
     return entries;
+  }
+
+  // The one message shown since the last check, with its title, text, buttons and icon.
+  void Expect_Only_Message(const Message& expected) {
+    ASSERT_EQ(machine().Messages().size(), 1u);
+    const ShownMessage& shown = machine().Messages()[0];
+    EXPECT_EQ(shown.title, expected.title);
+    EXPECT_EQ(shown.text, expected.text);
+    EXPECT_EQ(shown.buttons, expected.buttons);
+    EXPECT_EQ(shown.icon, expected.icon);
+    machine().Clear_Messages();
   }
 
   // An option is clicked on its round button: beside its caption a click falls on nothing.
