@@ -93,6 +93,15 @@ TEST_F(frmScheduler_ReminderTasksTest, TheListFollowsTheLogOnlyWhenItIsShownAgai
   EXPECT_EQ(Entries(Tasks()).back(), "2002, 05May 01, 10:00 Late, #5");
 }
 
+TEST_F(frmScheduler_ReminderTasksTest, AMemberNewInTheListRebuildsNothing) {
+  Choose_Member("Ben");
+  organizer::Append_Record(organizer::kScheduleFile, Task_At(5, "Ben", 2002, "May", "01", "10", "00", "Late"));
+  organizer().lstListOfPeople->addItem("Aaron");  // sorted in before the chosen member
+  organizer().lstListOfPeople->addItem("Zoe");
+  EXPECT_EQ(organizer().lstListOfPeople->currentItem()->text().toStdString(), "Ben");
+  EXPECT_EQ(Tasks()->count(), 1);
+}
+
 TEST_F(frmScheduler_ReminderTasksTest, ChoosingATaskEnablesItsButtonAndTheListDisablesItAgain) {
   Choose_Member("Anna");
   Click_Entry(Tasks(), "2001, 03Mar 05, 14:30 Dentist, #1");
