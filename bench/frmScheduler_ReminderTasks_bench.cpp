@@ -4,33 +4,19 @@
 // takes.
 #include <benchmark/benchmark.h>
 
-#include <QDir>
 #include <QListWidget>
-#include <QTemporaryDir>
 #include <QTest>
-#include <cstdio>
-#include <cstdlib>
 
 #include "large_log.h"
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/working_files.h"
 #include "platform/controls.h"
-#include "platform/qt_platform.h"
 #include "platform/window_registry.h"
+#include "window_bench.h"
 
 namespace {
 
 using namespace orrivane;
-
-// The machine's own platform, but a message box ends the run: nothing here asks a question, so
-// a message means the benchmark no longer measures what it says.
-class BenchPlatform : public platform::QtPlatform {
- public:
-  int Message_Box(const std::string& text, int, int, const std::string& title) override {
-    std::fprintf(stderr, "a benchmark met a message box: [%s] %s\n", title.c_str(), text.c_str());
-    std::abort();
-  }
-};
 
 frmScheduler_Reminder& Organizer() { return Window<frmScheduler_Reminder>(); }
 
@@ -80,20 +66,4 @@ BENCHMARK(BM_ShowTaskList)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  platform::Application app(argc, argv);
-  BenchPlatform bench_machine;
-  platform::Install(&bench_machine);
-  // The program reads and writes its working files in the current folder.
-  QTemporaryDir folder;
-  QDir::setCurrent(folder.path());
-
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  Unload_All_Windows();
-  platform::Install(nullptr);
-  return 0;
-}
+int main(int argc, char** argv) { return orrivane::bench::Run_Window_Benchmarks(argc, argv); }
