@@ -35,6 +35,11 @@ class frmFilterTasksEventsDisplayedTest : public TaskWindowTest {
     box->setCurrentIndex(box->findText(item));
     ASSERT_EQ(box->currentText(), item);
   }
+  // A month and a date chosen on one side.
+  void Choose_Day(int side, const QString& month, const QString& date) {
+    Choose("ComboMonths", side, month);
+    Choose("ComboDate", side, date);
+  }
   void Set_Date_Filters() { Trigger(window(), "cmdSetDateFilters"); }
 
   // Sets the filters and expects the one message, with the window staying open and the bounds
@@ -79,8 +84,7 @@ TEST_F(frmFilterTasksEventsDisplayedTest, AllBoxesEmptyGiveTheHourOfNowFromZeroT
 }
 
 TEST_F(frmFilterTasksEventsDisplayedTest, ChosenBoxesMakeTheBounds) {
-  Choose("ComboMonths", 0, "Dec");
-  Choose("ComboDate", 0, "05");
+  Choose_Day(0, "Dec", "05");
   Choose("ComboCentury", 0, "19");
   Choose("ComboYear", 0, "99");
   Choose("cboHour", 0, "07");
@@ -121,27 +125,22 @@ TEST_F(frmFilterTasksEventsDisplayedTest, TheSpaceBarSwapsASideAndOneStaysOn) {
 }
 
 TEST_F(frmFilterTasksEventsDisplayedTest, AnInvalidAfterDateInFebruaryKeepsTheMissingWord) {
-  Choose("ComboMonths", 0, "Feb");
-  Choose("ComboDate", 0, "29");
+  Choose_Day(0, "Feb", "29");
   Choose("ComboCentury", 0, "20");
   Choose("ComboYear", 0, "23");
   Expect_Refused("Invalid Date", "Feb only has 28 days in for the year that is currently selected.");
 }
 
 TEST_F(frmFilterTasksEventsDisplayedTest, AnInvalidBeforeDate) {
-  Choose("ComboMonths", 1, "Feb");
-  Choose("ComboDate", 1, "30");
+  Choose_Day(1, "Feb", "30");
   Expect_Refused("Invalid Date", "Feb only has 29 days in it for the year that is currently selected.");
-  Choose("ComboMonths", 1, "Nov");
-  Choose("ComboDate", 1, "31");
+  Choose_Day(1, "Nov", "31");
   Expect_Refused("Invalid Date", "Nov only has 30 days in it.");
 }
 
 TEST_F(frmFilterTasksEventsDisplayedTest, BothInvalid) {
-  Choose("ComboMonths", 0, "Apr");
-  Choose("ComboDate", 0, "31");
-  Choose("ComboMonths", 1, "Jun");
-  Choose("ComboDate", 1, "31");
+  Choose_Day(0, "Apr", "31");
+  Choose_Day(1, "Jun", "31");
   Expect_Refused("Invalid Dates", "The selected dates are invalid for the currently selected months.");
 }
 
@@ -151,8 +150,7 @@ TEST_F(frmFilterTasksEventsDisplayedTest, ACenturyIsTakenAsTypedWithoutCompletio
   EXPECT_EQ(century->currentText().toStdString(), "2");
   EXPECT_EQ(century->count(), 84);  // nothing added to the list
   Choose("ComboYear", 0, "00");
-  Choose("ComboMonths", 0, "Feb");
-  Choose("ComboDate", 0, "29");
+  Choose_Day(0, "Feb", "29");
   // The year 200 is no leap year in the Gregorian style.
   Expect_Refused("Invalid Date", "Feb only has 28 days in for the year that is currently selected.");
   Type(century->lineEdit(), "4");
