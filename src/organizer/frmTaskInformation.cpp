@@ -182,10 +182,10 @@ Value frmTaskInformation::Store_Reminder_Variables(const std::string& name, cons
   return reminder_variables_.Store(name, verb, value);
 }
 
-void frmTaskInformation::Set_Reminder_Labels(const Value& Kind, const Value& Interval_Days,
+void frmTaskInformation::Set_Reminder_Labels(const Value& Value_, const Value& Interval_Days,
                                              const Value& Interval_Hours, const Value& Interval_Minutes) {
   const std::optional<organizer::ReminderLabels> labels =
-      organizer::Set_Reminder_Labels(Kind, Interval_Days, Interval_Hours, Interval_Minutes);
+      organizer::Set_Reminder_Labels(Value_, Interval_Days, Interval_Hours, Interval_Minutes);
   if (!labels) return;
   Set_Caption(lblMethod, labels->Method);
   Set_Caption(lblInterval, labels->Interval);

@@ -61,7 +61,7 @@ class frmTaskInformation : public QMainWindow {
   Value Store_Reminder_Variables(const std::string& name, const std::string& verb, const Value& value = {});
   // lblMethod and lblInterval from the kind of reminder and its interval; another kind leaves
   // them as they are.
-  void Set_Reminder_Labels(const Value& Kind, const Value& Interval_Days, const Value& Interval_Hours,
+  void Set_Reminder_Labels(const Value& Value_, const Value& Interval_Days, const Value& Interval_Hours,
                            const Value& Interval_Minutes);
   void Enable_Reminder_Frame_Labels(bool Value_);
   void Set_Record_Changed_Flag(bool Flag);

@@ -53,10 +53,10 @@ std::string Reminder_Interval_Text(const Value& Interval_Days, const Value& Inte
   return joined;
 }
 
-std::optional<ReminderLabels> Set_Reminder_Labels(const Value& Kind, const Value& Interval_Days,
+std::optional<ReminderLabels> Set_Reminder_Labels(const Value& Value_, const Value& Interval_Days,
                                                   const Value& Interval_Hours, const Value& Interval_Minutes) {
   for (const KindTexts& texts : kKinds) {
-    if (Kind != Value(texts.kind)) continue;
+    if (Value_ != Value(texts.kind)) continue;
     return ReminderLabels{texts.method, texts.interval != nullptr
                                             ? std::string(texts.interval)
                                             : Reminder_Interval_Text(Interval_Days, Interval_Hours, Interval_Minutes)};
