@@ -1,6 +1,5 @@
 // The task list of one group member, its date filter, and showing one task.
 #include <QStringList>
-#include <functional>
 #include <optional>
 
 #include "calendar/frmLargeCalendar.h"
@@ -47,7 +46,7 @@ void Set_Check_Value(QCheckBox* box, Qt::CheckState state) {
 
 // ---- Where View_Task_Event_Information takes the record number from ------------------------------
 
-using NumberSource = std::function<std::optional<Value>(frmScheduler_Reminder&, const Value& index)>;
+using NumberSource = std::optional<Value> (*)(frmScheduler_Reminder&, const Value& index);
 
 std::optional<Value> Number_Of_Entry(const QString& entry) {
   return Value(organizer::Record_Number_Of_Entry(entry.toStdString()));
@@ -82,7 +81,7 @@ struct NumberRoute {
 };
 
 // The origins whose windows are part of the program; any other origin selects nothing.
-const NumberRoute kNumberRoutes[] = {
+constexpr NumberRoute kNumberRoutes[] = {
     {organizer::kLstScheduleListDblClick, Selected_Task_List_Entry},
     {organizer::kCmdViewTaskInformationClick, Selected_Task_List_Entry},
     {organizer::kCboAppointmentsClick, Chosen_Appointment},
