@@ -24,7 +24,7 @@
 
 #include "core/value.h"
 #include "organizer/chart_geometry.h"
-#include "organizer/time_period_selection.h"
+#include "organizer/task_chart.h"
 #include "platform/MenuTree.h"
 
 namespace orrivane {
@@ -137,12 +137,12 @@ class frmScheduler_Reminder : public QMainWindow {
   std::optional<organizer::DateAndTime> Step_Moment(organizer::PeriodStep step);
   void Enable_Step(organizer::PeriodStep step, bool enabled);
   // Adds to lstListOfPeople every member of the log it lacks.
-  void Rebuild_Member_List();
+  void Rebuild_Member_List(const std::vector<std::string>& members);
   // Sets the scroll bar for the members and answers the first row member, pulled back if need be.
   int Set_Chart_Scroll_Bar(int first_row_member);
   void Clear_Chart(const organizer::ChartView& view);
   void Fill_Rows(int first_row_member);
-  void Paint_Tasks(const organizer::ChartView& view);
+  void Paint_Tasks(const organizer::ChartView& view, std::span<const organizer::ScheduleRecord> tasks);
 };
 
 }  // namespace orrivane

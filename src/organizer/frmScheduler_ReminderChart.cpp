@@ -61,15 +61,17 @@ void frmScheduler_Reminder::Refresh_Organizer_Screen(std::string_view Calling_Pr
   if (!moment) return;
 
   controls::Set_Caption(lblFileName, controls::Caption(Window<Form1>().lblStoreScheduleFileName));
-  Rebuild_Member_List();
+  // One reading of the log serves the members and the painting.
+  const organizer::ChartView view = organizer::View_Of(*moment);
+  const organizer::ChartLog log = organizer::Read_Chart_Log(organizer::kScheduleFile, view);
+  Rebuild_Member_List(log.members);
   const int first_row_member = Set_Chart_Scroll_Bar(scrChart->value());
   for (int cell = 0; cell < organizer::kScreenChartCells; ++cell) Chart_History_List_Content_Tracker(cell, "Put", -1);
 
-  const organizer::ChartView view = organizer::View_Of(*moment);
   Clear_Chart(view);
   Fill_Rows(first_row_member);
   controls::Set_Caption(lblTimePeriod, organizer::View_Caption(view));
-  Paint_Tasks(view);
+  Paint_Tasks(view, log.tasks);
 }
 
 std::optional<organizer::DateAndTime> frmScheduler_Reminder::Moment_To_Show(std::string_view Calling_Procedure) {
@@ -105,13 +107,13 @@ void frmScheduler_Reminder::Enable_Step(PeriodStep step, bool enabled) {
   menu->Action(earlier ? "mnuEarlierTimePeriod" : "mnuLaterTimePeriod")->setEnabled(enabled);
 }
 
-void frmScheduler_Reminder::Rebuild_Member_List() {
-  organizer::For_Each_Member(organizer::kScheduleFile, [this](const std::string& member) {
+void frmScheduler_Reminder::Rebuild_Member_List(const std::vector<std::string>& members) {
+  for (const std::string& member : members) {
     const QString name = QString::fromStdString(member);
     if (lstListOfPeople->findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty()) {
       lstListOfPeople->addItem(name);
     }
-  });
+  }
 }
 
 int frmScheduler_Reminder::Set_Chart_Scroll_Bar(int first_row_member) {
@@ -144,11 +146,12 @@ void frmScheduler_Reminder::Fill_Rows(int first_row_member) {
   }
 }
 
-void frmScheduler_Reminder::Paint_Tasks(const organizer::ChartView& view) {
+void frmScheduler_Reminder::Paint_Tasks(const organizer::ChartView& view,
+                                        std::span<const organizer::ScheduleRecord> tasks) {
   std::vector<std::string> row_captions;
   for (const QLabel* member : lblChartGroupMemberName) row_captions.push_back(controls::Caption(member));
   const std::vector<organizer::PaintedTask> painted =
-      organizer::Tasks_To_Paint(organizer::kScheduleFile, view, row_captions);
+      organizer::Tasks_To_Paint(tasks, view, row_captions);
   const std::vector<int> owners = organizer::Cell_Owners(painted, organizer::kScreenChartCells);
   for (int cell = 0; cell < organizer::kScreenChartCells; ++cell) {
     const int owner = owners[static_cast<std::size_t>(cell)];

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <tuple>
+#include <unordered_set>
+#include <utility>
 
 #include "engine/vocabulary.h"
 #include "organizer/log_file.h"
@@ -18,18 +20,41 @@ std::int64_t Year_Of(const TaskMoment& moment) { return 100 * moment.century.who
 // Year, month number, date and hour, in the order they are compared.
 using HourOfDay = std::tuple<std::int64_t, std::int64_t, std::int64_t, std::int64_t>;
 
-HourOfDay Hour_Of(const TaskMoment& moment) {
-  const Value month = engine::Define_Month(moment.month, "Get Month Number");
-  return {Year_Of(moment), month.is_empty() ? 0 : month.whole(), moment.date.whole(), moment.hour.whole()};
+// The month's number as Define_Month answers it, 0 for no month; a full English name, the form the
+// log holds, is looked up directly.
+std::int64_t Month_Number_Of(const Value& month) {
+  if (month.is_text()) {
+    if (const int number = engine::Full_Month_Number(month.text()); number != 0) return number;
+  }
+  const Value number = engine::Define_Month(month, "Get Month Number");
+  return number.is_empty() ? 0 : number.whole();
 }
 
-HourOfDay View_Hour(const ChartView& view, int hour) { return {view.year, view.month, view.date, hour}; }
+HourOfDay Hour_Of(const TaskMoment& moment) {
+  return {Year_Of(moment), Month_Number_Of(moment.month), moment.date.whole(), moment.hour.whole()};
+}
 
-const TimePeriod& Period_Of(const ChartView& view) { return kTimePeriods[static_cast<std::size_t>(view.period)]; }
+// The in-view test over the moment's hour of day, worked out once for both tests of a task. The
+// same day by number is implied by the same month name, and is the cheaper test, so it comes first.
+bool In_View(const TaskMoment& moment, const HourOfDay& hour_of_day, const ChartView& view) {
+  const auto& [year, month, date, hour] = hour_of_day;
+  const TimePeriod& period = kTimePeriods[static_cast<std::size_t>(view.period)];
+  return year == view.year && month == view.month && date == view.date && hour >= period.first_hour &&
+         hour <= period.last_hour && moment.month.text() == engine::Full_Month_Name(view.month);
+}
+
+bool Within(const HourOfDay& start, const HourOfDay& finish, const ChartView& view) {
+  const TimePeriod& period = kTimePeriods[static_cast<std::size_t>(view.period)];
+  return start < HourOfDay{view.year, view.month, view.date, period.first_hour} &&
+         finish > HourOfDay{view.year, view.month, view.date, period.last_hour};
+}
 
 int Cell_Of(const TaskMoment& moment, int row) {
   return Chart_Cell(row, Chart_Column(moment.hour.whole(), moment.minute.whole()));
 }
+
+// A task, not a marker record: its Record_Number is above -1.
+bool Is_Task(const ScheduleRecord& record) { return record.Record_Number.number() > -1; }
 
 // The row whose caption is the task's member, or nothing.
 std::optional<int> Row_Of(const ScheduleRecord& task, std::span<const std::string> row_captions) {
@@ -64,17 +89,10 @@ TaskMoment Finish_Of(const ScheduleRecord& task) {
           task.Finish_Year,    task.Finish_Hour, task.Finish_Minute};
 }
 
-bool Moment_In_View(const TaskMoment& moment, const ChartView& view) {
-  const TimePeriod& period = Period_Of(view);
-  const std::int64_t hour = moment.hour.whole();
-  return hour >= period.first_hour && hour <= period.last_hour &&
-         moment.month.text() == engine::Full_Month_Name(view.month) && moment.date.whole() == view.date &&
-         Year_Of(moment) == view.year;
-}
+bool Moment_In_View(const TaskMoment& moment, const ChartView& view) { return In_View(moment, Hour_Of(moment), view); }
 
 bool Period_Within_Task(const TaskMoment& start, const TaskMoment& finish, const ChartView& view) {
-  const TimePeriod& period = Period_Of(view);
-  return Hour_Of(start) < View_Hour(view, period.first_hour) && Hour_Of(finish) > View_Hour(view, period.last_hour);
+  return Within(Hour_Of(start), Hour_Of(finish), view);
 }
 
 int Chart_Column(std::int64_t hour, std::int64_t minute) {
@@ -85,27 +103,45 @@ int Chart_Column(std::int64_t hour, std::int64_t minute) {
 std::optional<TaskCells> Cells_Of_Task(const ScheduleRecord& task, const ChartView& view, int row) {
   const TaskMoment start = Start_Of(task);
   const TaskMoment finish = Finish_Of(task);
-  const bool start_in_view = Moment_In_View(start, view);
-  const bool finish_in_view = Moment_In_View(finish, view);
-  if (!start_in_view && !finish_in_view && !Period_Within_Task(start, finish, view)) return std::nullopt;
+  const HourOfDay start_hour = Hour_Of(start);
+  const HourOfDay finish_hour = Hour_Of(finish);
+  const bool start_in_view = In_View(start, start_hour, view);
+  const bool finish_in_view = In_View(finish, finish_hour, view);
+  if (!start_in_view && !finish_in_view && !Within(start_hour, finish_hour, view)) return std::nullopt;
   return TaskCells{start_in_view ? Cell_Of(start, row) : Chart_Cell(row, 0),
                    finish_in_view ? Cell_Of(finish, row) : Chart_Cell(row, kLastColumn)};
 }
 
 // ---- The painting pass ------------------------------------------------------------------------
 
-std::vector<PaintedTask> Tasks_To_Paint(const std::string& log_path, const ChartView& view,
+ChartLog Read_Chart_Log(const std::string& log_path, const ChartView& view) {
+  ChartLog log;
+  std::unordered_set<std::string> seen;
+  For_Each_Record(log_path, [&](const ScheduleRecord& record) {
+    if (std::string member = record.Person_Name.text(); seen.insert(member).second) log.members.push_back(std::move(member));
+    // Whether a task paints does not depend on its row: the rows are settled after the reading.
+    if (Is_Task(record) && Cells_Of_Task(record, view, 0)) log.tasks.push_back(record);
+  });
+  return log;
+}
+
+std::vector<PaintedTask> Tasks_To_Paint(std::span<const ScheduleRecord> tasks, const ChartView& view,
                                         std::span<const std::string> row_captions) {
   std::vector<PaintedTask> painted;
-  For_Each_Record(log_path, [&](const ScheduleRecord& record) {
-    if (record.Record_Number.number() <= -1) return;
-    const std::optional<int> row = Row_Of(record, row_captions);
-    if (!row) return;
-    const std::optional<TaskCells> cells = Cells_Of_Task(record, view, *row);
-    if (!cells) return;
-    painted.push_back({*row, cells->first, cells->last, record.Color_Code, record.Record_Number});
-  });
+  for (const ScheduleRecord& task : tasks) {
+    if (!Is_Task(task)) continue;
+    const std::optional<int> row = Row_Of(task, row_captions);
+    if (!row) continue;
+    const std::optional<TaskCells> cells = Cells_Of_Task(task, view, *row);
+    if (!cells) continue;
+    painted.push_back({*row, cells->first, cells->last, task.Color_Code, task.Record_Number});
+  }
   return painted;
+}
+
+std::vector<PaintedTask> Tasks_To_Paint(const std::string& log_path, const ChartView& view,
+                                        std::span<const std::string> row_captions) {
+  return Tasks_To_Paint(Read_Chart_Log(log_path, view).tasks, view, row_captions);
 }
 
 std::vector<int> Cell_Owners(std::span<const PaintedTask> painted, int cell_count) {

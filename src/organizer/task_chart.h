@@ -70,6 +70,16 @@ std::optional<TaskCells> Cells_Of_Task(const ScheduleRecord& task, const ChartVi
 
 // ---- The painting pass ------------------------------------------------------------------------
 
+// One reading of the log for a refresh: field 19 of its records, marker records and tasks alike,
+// each name at its first appearance, and, in file order, the tasks (records whose Record_Number
+// is above -1) that paint in the view, whoever's they are. A refresh reads the log once, through,
+// and keeps nothing of it afterwards.
+struct ChartLog {
+  std::vector<std::string> members;
+  std::vector<ScheduleRecord> tasks;
+};
+ChartLog Read_Chart_Log(const std::string& log_path, const ChartView& view);
+
 // A task to paint: its cells on its row, its colour (field 18, 0xBBGGRR) and record number.
 struct PaintedTask {
   int row;
@@ -79,11 +89,13 @@ struct PaintedTask {
   Value record_number;
 };
 
-// Reads the log at `log_path` through and answers, in file order, every task that paints in the
-// view on a row of a member whose name is among `row_captions` (one a row, as many as the chart
-// has rows; the first equal caption counts). Marker records (Record_Number not above -1) and
-// tasks of members on no row paint nothing. Tasks are not merged: a later task overwrites the
-// cells of an earlier one, so the caller paints them in this order.
+// Every task, in file order, that paints in the view on a row of a member whose name is among
+// `row_captions` (one a row, as many as the chart has rows; the first equal caption counts).
+// Marker records and tasks of members on no row paint nothing. Tasks are not merged: a later
+// task overwrites the cells of an earlier one, so the caller paints them in this order.
+std::vector<PaintedTask> Tasks_To_Paint(std::span<const ScheduleRecord> tasks, const ChartView& view,
+                                        std::span<const std::string> row_captions);
+// The same over the log at `log_path`, read through.
 std::vector<PaintedTask> Tasks_To_Paint(const std::string& log_path, const ChartView& view,
                                         std::span<const std::string> row_captions);
 

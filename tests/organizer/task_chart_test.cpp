@@ -221,6 +221,20 @@ TEST_F(Tasks_To_Paint_Test, ThePrintedChartHasThirtyTwoRows) {
   EXPECT_EQ(owners[Chart_Cell(30, 35)], kNoTask);
 }
 
+TEST_F(Tasks_To_Paint_Test, OneReadingGivesTheMembersAtTheirFirstAppearanceAndTheTasksInTheView) {
+  Add_Member("Carl");
+  Add(Moment_Task(1, "Anna", {"March", 5, 2001, 14, 30}, kBlue));
+  Add_Member("Anna");
+  Add(Moment_Task(2, "Carl", {"March", 5, 2001, 9, 30}, kBlue));
+  Add(Moment_Task(3, "anna", {"March", 5, 2001, 17, 59}, kBlue));
+  const ChartLog log = Read_Chart_Log(Log(), kAfternoonMarch5);
+  EXPECT_EQ(log.members, (std::vector<std::string>{"Carl", "Anna", "anna"}));
+  ASSERT_EQ(log.tasks.size(), 2u);
+  EXPECT_EQ(log.tasks[0].Record_Number, Value(1));
+  EXPECT_EQ(log.tasks[1].Record_Number, Value(3));
+  EXPECT_EQ(Tasks_To_Paint(log.tasks, kAfternoonMarch5, std::vector<std::string>{"anna"}).at(0).last_cell, 35);
+}
+
 TEST_F(Tasks_To_Paint_Test, AMissingLogIsFailure53) {
   EXPECT_EQ(testing::Failure_Of([&] { Paint(kAfternoonMarch5, {"Anna"}); }), 53);
 }
