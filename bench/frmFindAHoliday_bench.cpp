@@ -3,41 +3,20 @@
 // headless. The window tests check what these requests give; this measures how long they take.
 #include <benchmark/benchmark.h>
 
-#include <QDir>
 #include <QLineEdit>
 #include <QListView>
-#include <QTemporaryDir>
 #include <QTest>
-#include <cstdio>
-#include <cstdlib>
 
 #include "calendar/Form1.h"
 #include "calendar/frmLargeCalendar.h"
 #include "holidays/frmFindAHoliday.h"
 #include "holidays/holiday_rules.h"
-#include "platform/qt_platform.h"
 #include "platform/window_registry.h"
+#include "window_bench.h"
 
 namespace {
 
 using namespace orrivane;
-
-// The machine's own platform, but a message box ends the run: every request here is valid, so a
-// message means the benchmark no longer measures what it says.
-class BenchPlatform : public platform::QtPlatform {
- public:
-  int Message_Box(const std::string& text, int, int, const std::string& title) override {
-    std::fprintf(stderr, "a benchmark met a message box: [%s] %s\n", title.c_str(), text.c_str());
-    std::abort();
-  }
-  void Yield() override {
-    ++yields;
-    QtPlatform::Yield();
-  }
-  std::int64_t yields = 0;
-};
-
-BenchPlatform* machine = nullptr;
 
 frmFindAHoliday& Find() { return Window<frmFindAHoliday>(); }
 
@@ -102,10 +81,10 @@ void BM_DisplayAllByYear_Whole_Reach(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
     Clear_List();
-    const std::int64_t yields_before = machine->yields;
+    const std::int64_t yields_before = bench::Machine().yields;
     state.ResumeTiming();
     Ask_All_By_Year("1583", QString::number(holidays::kHolidayYearLimit));
-    yields = machine->yields - yields_before;
+    yields = bench::Machine().yields - yields_before;
   }
   Report_Lines(state);
   state.counters["yields"] = static_cast<double>(yields);
@@ -143,21 +122,4 @@ BENCHMARK(BM_Clear_Whole_Reach)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  platform::Application app(argc, argv);
-  BenchPlatform bench_machine;
-  machine = &bench_machine;
-  platform::Install(&bench_machine);
-  // The program writes its working files into the current folder.
-  QTemporaryDir folder;
-  QDir::setCurrent(folder.path());
-
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  Unload_All_Windows();
-  platform::Install(nullptr);
-  return 0;
-}
+int main(int argc, char** argv) { return orrivane::bench::Run_Window_Benchmarks(argc, argv); }

@@ -3,33 +3,19 @@
 // windows ask for after an edit. The log has 10,000 tasks of 50 members.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-#include <QDir>
-#include <QTemporaryDir>
-#include <cstdio>
-#include <cstdlib>
+#include <QCoreApplication>
 
 #include "../tests/organizer/chart_samples.h"
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/log_file.h"
 #include "organizer/organizer_callers.h"
 #include "platform/controls.h"
-#include "platform/qt_platform.h"
 #include "platform/window_registry.h"
+#include "window_bench.h"
 
 namespace {
 
 using namespace orrivane;
-
-// The machine's own platform, but a message box ends the run: nothing here asks a question,
-// so a message means the benchmark no longer measures what it says.
-class BenchPlatform : public platform::QtPlatform {
- public:
-  int Message_Box(const std::string& text, int, int, const std::string& title) override {
-    std::fprintf(stderr, "a benchmark met a message box: [%s] %s\n", title.c_str(), text.c_str());
-    std::abort();
-  }
-};
 
 constexpr int kMembers = 50;
 constexpr int kTasks = 10'000;
@@ -94,20 +80,4 @@ BENCHMARK(BM_Later_And_Earlier)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  platform::Application app(argc, argv);
-  BenchPlatform bench_machine;
-  platform::Install(&bench_machine);
-  // The program keeps its working log in the current folder.
-  QTemporaryDir folder;
-  QDir::setCurrent(folder.path());
-
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  Unload_All_Windows();
-  platform::Install(nullptr);
-  return 0;
-}
+int main(int argc, char** argv) { return orrivane::bench::Run_Window_Benchmarks(argc, argv); }

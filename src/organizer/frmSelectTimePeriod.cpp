@@ -1,15 +1,10 @@
 #include "organizer/frmSelectTimePeriod.h"
 
-#include <QApplication>
-#include <QEvent>
-#include <QMessageBox>
-
 #include "engine/vocabulary.h"
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/organizer_callers.h"
 #include "organizer/time_period_selection.h"
 #include "platform/controls.h"
-#include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
 
@@ -43,7 +38,7 @@ std::string Text_Of(const QComboBox* box) { return controls::Text_Of(box); }
 
 }  // namespace
 
-frmSelectTimePeriod::frmSelectTimePeriod() {
+frmSelectTimePeriod::frmSelectTimePeriod() : deactivation_(new HideOnDeactivate(*this)) {
   setObjectName("frmSelectTimePeriod");
   setWindowTitle(kSelectTimePeriodCaption);
   Build_Controls();
@@ -108,26 +103,13 @@ void frmSelectTimePeriod::Open_For(const QString& caption, const QString& button
 
 void frmSelectTimePeriod::cmdCancel_Click() { hide(); }
 
-bool frmSelectTimePeriod::event(QEvent* event) {
-  if (event->type() == QEvent::WindowDeactivate) Form_Deactivate();
-  return QWidget::event(event);
-}
-
-void frmSelectTimePeriod::Form_Deactivate() {
-  // A message box is not another window of the program: the choice stays for correction.
-  if (showing_message_ || qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr) return;
-  hide();
-}
-
 void frmSelectTimePeriod::cmdDisplay_Click() {
   const organizer::TimePeriodEntries entries{Text_Of(cboTimePeriod), Text_Of(ComboMonths), Text_Of(ComboDate),
                                              Text_Of(ComboCentury), Text_Of(ComboYear)};
   const organizer::TimePeriodSelection selection =
       organizer::Check_Time_Period_Selection(entries, platform::Machine().System_Date());
   if (selection.code != 0) {
-    showing_message_ = true;
-    platform::Show_Message(organizer::Time_Period_Selection_Message(selection));
-    showing_message_ = false;
+    deactivation_->Show_Message(organizer::Time_Period_Selection_Message(selection));
     return;
   }
   controls::Set_Caption(lblSelectedTime, selection.selected_time);

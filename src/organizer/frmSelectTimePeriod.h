@@ -8,6 +8,8 @@
 #include <QWidget>
 #include <string>
 
+#include "platform/HideOnDeactivate.h"
+
 namespace orrivane {
 
 // The window's caption and its button's caption for showing a period on the Organizer's chart.
@@ -42,11 +44,6 @@ class frmSelectTimePeriod : public QWidget {
   // one goes where the button's caption says, and the window hides.
   void cmdDisplay_Click();
   void cmdCancel_Click();
-  // Another window of the program became active: the window hides.
-  void Form_Deactivate();
-
- protected:
-  bool event(QEvent* event) override;
 
  private:
   void Build_Controls();
@@ -54,9 +51,8 @@ class frmSelectTimePeriod : public QWidget {
   // The accepted choice shown on the Organizer's chart.
   void Display_On_Organizer();
 
-  // Set while a message box of this window is up: the box takes the focus, and that must not
-  // put the window away with the user's choice.
-  bool showing_message_ = false;
+  // Another window of the program becoming active puts this one away; its own messages don't.
+  HideOnDeactivate* deactivation_;
 };
 
 }  // namespace orrivane
