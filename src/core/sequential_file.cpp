@@ -59,7 +59,10 @@ SequentialReader::SequentialReader(const std::string& path) {
   if (Is_Directory(path)) throw RuntimeFailure(kPathFileAccessError);
   std::ifstream in(path, std::ios::binary);
   if (!in) throw RuntimeFailure(kFileNotFound);
-  data_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+  // The whole file in one piece: a log of thousands of records is read on every refresh.
+  std::ostringstream content;
+  if (in.peek() != std::char_traits<char>::eof()) content << in.rdbuf();
+  data_ = std::move(content).str();
 }
 
 SequentialReader SequentialReader::From_Text(std::string content) {

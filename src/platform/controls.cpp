@@ -9,6 +9,7 @@ namespace orrivane::controls {
 QColor To_QColor(unsigned colour) {
   const QPalette palette = QApplication::palette();
   switch (colour) {
+    case colours::kActiveTitleText: return palette.color(QPalette::Active, QPalette::HighlightedText);
     case kButtonFace: return palette.color(QPalette::Button);
     case kGrayText: return palette.color(QPalette::Disabled, QPalette::WindowText);
     case kButtonText: return palette.color(QPalette::ButtonText);
