@@ -8,6 +8,7 @@
 
 #include "calendar/frmDateConversion.h"
 #include "calendar/frmFindADate.h"
+#include "calendar/frmSelectMonth.h"
 #include "calendar_window_test.h"
 #include "elapsed/frmFindDateDifference.h"
 #include "shell/frmAbout.h"
@@ -76,6 +77,21 @@ TEST_F(CalendarMenuKeysTest, ACenturyOfOneDigitStaysAsTyped) {
   auto* date_century = Control<QComboBox>(Window<frmFindADate>(), "ComboCentury");
   Type_Into_Focused(date_century, "1");
   EXPECT_EQ(date_century->currentText().toStdString(), "1");
+}
+
+// Enter presses the window's default button from any box, as in a dialog.
+TEST_F(CalendarMenuKeysTest, EnterInTheYearBoxDisplaysTheChosenMonth) {
+  Press_Keys(large(), QKeySequence("Ctrl+M"));
+  frmSelectMonth& chooser = Window<frmSelectMonth>();
+  ASSERT_TRUE(chooser.isVisible());
+  auto* months = Control<QComboBox>(chooser, "ComboMonths");
+  months->setCurrentText("March");
+  auto* year = Control<QLineEdit>(chooser, "txtYear");
+  year->setFocus();
+  Type(year, "2024");
+  Press_Keys(chooser, QKeySequence(Qt::Key_Return));
+  EXPECT_FALSE(chooser.isVisible());
+  EXPECT_EQ(controls::Caption(large().lblMonthYear), "March 2024");
 }
 
 }  // namespace
