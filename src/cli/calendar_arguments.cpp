@@ -5,13 +5,16 @@
 #include "calendar/select_month_check.h"
 #include "cli/command_error.h"
 #include "core/value.h"
+#include "engine/input_range.h"
 
 namespace orrivane::cli {
 
 namespace {
 
-constexpr std::int64_t kFirstDate = 1;
-constexpr std::int64_t kLastDate = 31;
+constexpr std::int64_t kFirstDay = 1;
+// A day above this is computed with this in its place: far beyond every month, and inside the
+// range of the weekday arithmetic.
+constexpr std::int64_t kLargestComputedDay = engine::kLargestInput;
 
 // The value of a text of digits, or nothing when it exceeds `largest` (however many digits).
 std::optional<std::int64_t> Digits_Up_To(const std::string& digits, std::int64_t largest) {
@@ -41,14 +44,27 @@ std::optional<std::string> Month_Name_Of(const std::string& month) {
 
 std::string Required_Month_Name(const std::string& month) {
   std::optional<std::string> name = Month_Name_Of(month);
-  if (!name) throw Command_Error("Invalid Month Entry", "\"" + month + "\" is no month's number or name.");
+  if (!name) throw Command_Error("Invalid Month Entry", Quoted(month) + " is no month's number or name.");
   return *name;
 }
 
-std::int64_t Date_Of(const std::string& date) {
-  const std::optional<std::int64_t> value = Is_All_Digits(date) ? Digits_Up_To(date, kLastDate) : std::nullopt;
-  if (!value || *value < kFirstDate) throw Command_Error("Invalid Date Entry", "Please enter a value from 1 to 31.");
-  return *value;
+Day Day_Of(const std::string& day) {
+  // The date boxes' own refusal, kept for what is no day at all.
+  const Command_Error no_day("Invalid Date Entry", "Please enter a value from 1 to 31.");
+  if (!Is_All_Digits(day)) throw no_day;
+  Day result;
+  result.digits = day.substr(std::min(day.find_first_not_of('0'), day.size() - 1));
+  result.value = Digits_Up_To(result.digits, kLargestComputedDay).value_or(kLargestComputedDay);
+  if (result.value < kFirstDay) throw no_day;
+  return result;
+}
+
+Message Refusal_Of_Day(Message refusal, const Day& day) {
+  const std::string computed = std::to_string(day.value);
+  if (computed == day.digits) return refusal;
+  const std::size_t at = refusal.text.find(computed);
+  if (at != std::string::npos) refusal.text.replace(at, computed.size(), day.digits);
+  return refusal;
 }
 
 std::int64_t Year_Of(const std::string& year) {

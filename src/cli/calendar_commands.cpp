@@ -32,11 +32,11 @@ std::string Grid_Row(const engine::MonthGrid& grid, int row) {
 // The weekday of a date as the main grid's Calendarr decides it, its message when it refuses.
 void Run_Weekday(const Arguments& arguments, Command_Context& context) {
   const std::string month = Required_Month_Name(arguments.operands[0]);
-  const std::int64_t date = Date_Of(arguments.operands[1]);
+  const Day day = Day_Of(arguments.operands[1]);
   const std::int64_t year = Year_Of(arguments.operands[2]);
-  const engine::CalendarrDate when = engine::Calendarr_Date_From_Year(month, date, year, Style_Of(arguments));
+  const engine::CalendarrDate when = engine::Calendarr_Date_From_Year(month, day.value, year, Style_Of(arguments));
   const engine::CalendarrResult result = engine::Calendarr_Compute(when);
-  if (result.error_code != 0) throw Command_Error(result.message);
+  if (result.error_code != 0) throw Command_Error(Refusal_Of_Day(result.message, day));
   context.out.Line(engine::Define_Weekday(result.weekday, "Get Weekday Name").text());
 }
 
@@ -61,11 +61,12 @@ void Run_Month(const Arguments& arguments, Command_Context& context) {
 void Run_Convert(const Arguments& arguments, Command_Context& context) {
   engine::ConvertDate date;
   date.month = Required_Month_Name(arguments.operands[0]);
-  date.date = Date_Of(arguments.operands[1]);
+  const Day day = Day_Of(arguments.operands[1]);
+  date.date = day.value;
   date.year = Year_Of(arguments.operands[2]);
   date.style = Style_Of(arguments);
   const engine::ConvertResult result = engine::Convert_Compute(date);
-  if (result.error_code != 0) throw Command_Error(result.message);
+  if (result.error_code != 0) throw Command_Error(Refusal_Of_Day(result.message, day));
   context.out.Line(result.lblDate2 + "\t" + result.lblDifference);
 }
 

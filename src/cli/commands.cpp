@@ -107,7 +107,7 @@ void Run_Parsed(const std::vector<std::string>& words, Command_Context& context)
   }
   const Command_Spec* command = Find_Command(words.front());
   if (command == nullptr) {
-    throw Command_Error("Unknown Command", "\"" + words.front() + "\" is no command; " + std::string(kHelpHint));
+    throw Command_Error("Unknown Command", Quoted(words.front()) + " is no command; " + std::string(kHelpHint));
   }
   const Arguments arguments = Parse_Arguments(*command, std::span<const std::string>(words).subspan(1));
   command->run(arguments, context);

@@ -76,7 +76,7 @@ weekday \"January 1 2000
 weekday January 1 2000\\
 batch
 calc Divide 1 0
-weekday January 1 2000" "error: Invalid Date Entry: Please enter a value from 1 to 31.
+weekday January 1 2000" "error: Invalid Date: January does not have 32 days in it!
 
 error: Unknown Command: \"frob\" is no command; orrivane-cal --help lists the commands.
 
