@@ -1,6 +1,7 @@
 #include "cli/calendar_arguments.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "calendar/select_month_check.h"
 #include "cli/command_error.h"
@@ -17,7 +18,7 @@ constexpr std::int64_t kFirstDay = 1;
 constexpr std::int64_t kLargestComputedDay = engine::kLargestInput;
 
 // The value of a text of digits, or nothing when it exceeds `largest` (however many digits).
-std::optional<std::int64_t> Digits_Up_To(const std::string& digits, std::int64_t largest) {
+std::optional<std::int64_t> Digits_Up_To(std::string_view digits, std::int64_t largest) {
   std::int64_t value = 0;
   for (char c : digits) {
     value = value * 10 + (c - '0');
@@ -26,36 +27,53 @@ std::optional<std::int64_t> Digits_Up_To(const std::string& digits, std::int64_t
   return value;
 }
 
+// FNV-1a: month texts are a few bytes long, for which this costs less than the general hash.
+struct Short_Text_Hash {
+  std::size_t operator()(std::string_view text) const noexcept {
+    std::uint64_t hash = 14695981039346656037ULL;
+    for (unsigned char c : text) hash = (hash ^ c) * 1099511628211ULL;
+    return static_cast<std::size_t>(hash);
+  }
+};
+
+// The date boxes' own refusal, kept for what is no day at all.
+[[noreturn]] void No_Day() { throw Command_Error("Invalid Date Entry", "Please enter a value from 1 to 31."); }
+
 }  // namespace
 
 engine::CalendarStyle Style_Of(const Arguments& arguments) {
   return arguments.Has("--julian") ? engine::CalendarStyle::Julian : engine::CalendarStyle::Gregorian;
 }
 
-bool Is_All_Digits(const std::string& text) {
+bool Is_All_Digits(std::string_view text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-std::optional<std::string> Month_Name_Of(const std::string& month) {
+const std::optional<std::string>& Month_Name_Of(const std::string& month) {
+  // The vocabulary's answer depends on the text alone, and costs a loose comparison with every
+  // form of every month; a batch asks for the same few texts again and again. So the answers
+  // are remembered, and forgotten all at once at a bound that no honest input reaches.
+  static constexpr std::size_t kRememberedTexts = 1024;
+  static std::unordered_map<std::string, std::optional<std::string>, Short_Text_Hash> remembered;
+  if (const auto known = remembered.find(month); known != remembered.end()) return known->second;
+  if (remembered.size() >= kRememberedTexts) remembered.clear();
   const Value name = engine::Define_Month(Value(month), "Get Month Name");
-  if (name.is_empty()) return std::nullopt;
-  return name.text();
+  return remembered.emplace(month, name.is_empty() ? std::nullopt : std::optional<std::string>(name.text()))
+      .first->second;
 }
 
-std::string Required_Month_Name(const std::string& month) {
-  std::optional<std::string> name = Month_Name_Of(month);
+const std::string& Required_Month_Name(const std::string& month) {
+  const std::optional<std::string>& name = Month_Name_Of(month);
   if (!name) throw Command_Error("Invalid Month Entry", Quoted(month) + " is no month's number or name.");
   return *name;
 }
 
-Day Day_Of(const std::string& day) {
-  // The date boxes' own refusal, kept for what is no day at all.
-  const Command_Error no_day("Invalid Date Entry", "Please enter a value from 1 to 31.");
-  if (!Is_All_Digits(day)) throw no_day;
+Day Day_Of(std::string_view day) {
+  if (!Is_All_Digits(day)) No_Day();
   Day result;
   result.digits = day.substr(std::min(day.find_first_not_of('0'), day.size() - 1));
   result.value = Digits_Up_To(result.digits, kLargestComputedDay).value_or(kLargestComputedDay);
-  if (result.value < kFirstDay) throw no_day;
+  if (result.value < kFirstDay) No_Day();
   return result;
 }
 
@@ -63,7 +81,7 @@ Message Refusal_Of_Day(Message refusal, const Day& day) {
   const std::string computed = std::to_string(day.value);
   if (computed == day.digits) return refusal;
   const std::size_t at = refusal.text.find(computed);
-  if (at != std::string::npos) refusal.text.replace(at, computed.size(), day.digits);
+  if (at != std::string::npos) refusal.text.replace(at, computed.size(), std::string(day.digits));
   return refusal;
 }
 
