@@ -1,7 +1,7 @@
 #include "cli/calendar_arguments.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <array>
 
 #include "calendar/select_month_check.h"
 #include "cli/command_error.h"
@@ -27,14 +27,22 @@ std::optional<std::int64_t> Digits_Up_To(std::string_view digits, std::int64_t l
   return value;
 }
 
-// FNV-1a: month texts are a few bytes long, for which this costs less than the general hash.
-struct Short_Text_Hash {
-  std::size_t operator()(std::string_view text) const noexcept {
-    std::uint64_t hash = 14695981039346656037ULL;
-    for (unsigned char c : text) hash = (hash ^ c) * 1099511628211ULL;
-    return static_cast<std::size_t>(hash);
-  }
+// The vocabulary's answer for one month text, once asked.
+struct Remembered_Month {
+  bool asked = false;
+  std::string text;
+  std::optional<std::string> name;
 };
+
+// Where a text is remembered: by its length and its first and last characters, which tell the
+// twelve English month names apart.
+constexpr std::size_t kRememberedTexts = 128;
+std::size_t Place_Of(std::string_view text) {
+  if (text.empty()) return 0;
+  const auto front = static_cast<unsigned char>(text.front());
+  const auto back = static_cast<unsigned char>(text.back());
+  return (text.size() * 131 + front * 31 + back) % kRememberedTexts;
+}
 
 // The date boxes' own refusal, kept for what is no day at all.
 [[noreturn]] void No_Day() { throw Command_Error("Invalid Date Entry", "Please enter a value from 1 to 31."); }
@@ -52,14 +60,15 @@ bool Is_All_Digits(std::string_view text) {
 const std::optional<std::string>& Month_Name_Of(const std::string& month) {
   // The vocabulary's answer depends on the text alone, and costs a loose comparison with every
   // form of every month; a batch asks for the same few texts again and again. So the answers
-  // are remembered, and forgotten all at once at a bound that no honest input reaches.
-  static constexpr std::size_t kRememberedTexts = 1024;
-  static std::unordered_map<std::string, std::optional<std::string>, Short_Text_Hash> remembered;
-  if (const auto known = remembered.find(month); known != remembered.end()) return known->second;
-  if (remembered.size() >= kRememberedTexts) remembered.clear();
-  const Value name = engine::Define_Month(Value(month), "Get Month Name");
-  return remembered.emplace(month, name.is_empty() ? std::nullopt : std::optional<std::string>(name.text()))
-      .first->second;
+  // are remembered, each in its place, where another text that comes to the same place takes
+  // over.
+  static std::array<Remembered_Month, kRememberedTexts> remembered;
+  Remembered_Month& place = remembered[Place_Of(month)];
+  if (!place.asked || place.text != month) {
+    const Value name = engine::Define_Month(Value(month), "Get Month Name");
+    place = {true, month, name.is_empty() ? std::nullopt : std::optional<std::string>(name.text())};
+  }
+  return place.name;
 }
 
 const std::string& Required_Month_Name(const std::string& month) {

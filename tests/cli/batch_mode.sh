@@ -93,6 +93,41 @@ error: Run-time error '11': Division by zero
 Saturday
 "
 
+# Month texts that the batch remembers in one place take it over from each other; each keeps
+# its own answer.
+feeds "weekday Jan 1 2000
+weekday Jun 1 2000
+weekday Jan 1 2000
+weekday Dec 1 2000
+weekday 13 1 2000
+weekday Dec 1 2000
+weekday 0 1 2000
+weekday x 1 2000
+weekday 0 1 2000
+weekday August 1 2000
+weekday Feb 1 2000" "Saturday
+
+Thursday
+
+Saturday
+
+Friday
+
+Saturday
+
+Friday
+
+Friday
+
+error: Invalid Month Entry: \"x\" is no month's number or name.
+
+Friday
+
+Tuesday
+
+Tuesday
+"
+
 # Help and version answer inside a batch too.
 version="$(sed -n 's/^project(Orrivane VERSION \([0-9.]*\).*/\1/p' "$(dirname "$0")/../../CMakeLists.txt")"
 feeds "--version" "orrivane-cal $version

@@ -8,24 +8,10 @@ source "$(dirname "$0")/expect.bash"
 full="error: Output Error: standard output could not be written: No space left on device."
 closed="error: Output Error: standard output could not be written: Bad file descriptor."
 
-# Runs the tool with standard output as the first argument sets it up ("full" or "closed"),
-# and compares status and standard error.
 write_fails() {
-  local where="$1" status_expected="$2" error="$3"
+  local where="$1" status="$2" error="$3"
   shift 3
-  local status=0
-  case "$where" in
-    full) "$tool" "$@" > /dev/full 2> "$scratch/err" < "${input_file:-/dev/null}" || status=$? ;;
-    closed) "$tool" "$@" >&- 2> "$scratch/err" < "${input_file:-/dev/null}" || status=$? ;;
-  esac
-  checks=$((checks + 1))
-  local ok=0
-  if [[ "$status" != "$status_expected" ]]; then
-    echo "FAIL: orrivane-cal $* to a $where output: exit status $status, expected $status_expected" >&2
-    ok=1
-  fi
-  compare "standard error" "$error" "$scratch/err" "orrivane-cal $* to a $where output" || ok=1
-  if ((ok != 0)); then failures=$((failures + 1)); fi
+  output_to="$where" expect "$status" "" "$error" "$@"
 }
 
 if [[ -w /dev/full ]]; then
