@@ -1,7 +1,6 @@
 #include "holidays/holiday_list_file.h"
 
 #include <filesystem>
-#include <iterator>
 
 #include "core/runtime_failure.h"
 #include "core/text.h"
@@ -21,14 +20,6 @@ bool Names_No_File(const std::string& path) {
                                ? text::Left(name, text::Len(name) - text::Len(kHolidayListExtension))
                                : name;
   return text::Trim(stem).empty();
-}
-
-std::string Whole_File(const std::string& path) {
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw RuntimeFailure(kPathFileAccessError);
-  std::ifstream in(path, std::ios::binary);
-  if (!in) throw RuntimeFailure(kFileNotFound);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 // The next line from `pos`, leaving `pos` behind its end (CR LF, CR or LF).
@@ -69,21 +60,17 @@ Message Invalid_File_Name_Refusal() { return {"Rename", "That file name is inval
 
 Holiday_List_Writer::Holiday_List_Writer(const std::string& path) {
   if (Names_No_File(path)) return;
-  out_.open(path, std::ios::binary | std::ios::trunc);
+  out_ = PlainFile(path, PlainFile::Access::Write);
 }
 
-void Holiday_List_Writer::Write_Record(std::string_view line) {
-  const std::string record = Holiday_List_Record(line);
-  out_.write(record.data(), static_cast<std::streamsize>(record.size()));
-}
+void Holiday_List_Writer::Write_Record(std::string_view line) { out_.Write(Holiday_List_Record(line)); }
 
 void Holiday_List_Writer::Close() {
-  out_.close();
-  if (out_.fail()) throw RuntimeFailure(kDeviceIOError);
+  if (!out_.Close()) throw RuntimeFailure(kDeviceIOError);
 }
 
 void Read_Holiday_List_File(const std::string& path, const std::function<void(std::string)>& add_line) {
-  const std::string data = Whole_File(path);
+  const std::string data = Read_Plain_File(path);
   std::size_t pos = 0;
   do {
     const std::string line = Next_Line(data, pos);
