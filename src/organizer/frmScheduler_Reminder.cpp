@@ -77,6 +77,7 @@ frmScheduler_Reminder::frmScheduler_Reminder() {
   setObjectName("frmScheduler_Reminder");
   setWindowTitle("Organizer");
   setCentralWidget(new QWidget);
+  chart_owners_.fill(Value(-1));  // no cell has a task before the first refresh
   Build_Chart();
   Build_Lists();
   Build_Filter();

@@ -17,6 +17,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -125,10 +126,16 @@ class frmScheduler_Reminder : public QMainWindow {
   // Each role connects its own controls and menu entries, in its own file.
   void Connect_Chart();
   void Connect_Tasks();
+  // Runs `click` when the user chooses another entry of `list`, by the mouse or the arrow keys.
+  void On_Choice(QListWidget* list, const QListWidgetItem*& chosen, const std::function<void()>& click);
   void Connect_Log();
   void Form_Activate();
 
   std::array<Value, organizer::kScreenChartCells> chart_owners_{};  // Chart_History_List_Content_Tracker
+  // The entry of each list that the user chose last: a list that sorts new entries in moves its
+  // choice without a new choice being made.
+  const QListWidgetItem* chosen_member_ = nullptr;
+  const QListWidgetItem* chosen_task_ = nullptr;
 
   // ---- The chart's own steps (frmScheduler_ReminderChart.cpp) -------------------------------
   // The moment the origin asks to show, with what the origin does to the step buttons; nothing

@@ -55,12 +55,21 @@ void frmScheduler_Reminder::lblChartHistoryList_Click(int Index) {
 // The whole chart in one pass: the members, the scroll bar, the view, every cell cleared and the
 // whole log read again, even for a scroll by one row.
 void frmScheduler_Reminder::Refresh_Organizer_Screen(std::string_view Calling_Procedure) {
-  // The moment is settled first: an origin that shows no view here, and a step refused at the end
-  // of the years, leave everything on the screen as it is.
+  // The moment is settled first: an origin that shows no view here leaves everything as it is.
+  // A step refused at the end of the years still brings the file name, the members and the
+  // scroll bar up to date, and leaves the chart as it is.
+  const bool step = Calling_Procedure == organizer::kCmdEarlierClick || Calling_Procedure == organizer::kCmdLaterClick;
   const std::optional<organizer::DateAndTime> moment = Moment_To_Show(Calling_Procedure);
-  if (!moment) return;
+  if (!moment && !step) return;
 
   controls::Set_Caption(lblFileName, controls::Caption(Window<Form1>().lblStoreScheduleFileName));
+  if (!moment) {
+    std::vector<std::string> members;
+    organizer::For_Each_Member(organizer::kScheduleFile, [&members](const std::string& member) { members.push_back(member); });
+    Rebuild_Member_List(members);
+    Set_Chart_Scroll_Bar(scrChart->value());
+    return;
+  }
   // One reading of the log serves the members and the painting.
   const organizer::ChartView view = organizer::View_Of(*moment);
   const organizer::ChartLog log = organizer::Read_Chart_Log(organizer::kScheduleFile, view);

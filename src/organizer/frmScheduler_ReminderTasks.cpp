@@ -48,12 +48,19 @@ void Set_Check_Value(QCheckBox* box, Qt::CheckState state) {
 
 using NumberSource = std::optional<Value> (*)(frmScheduler_Reminder&, const Value& index);
 
+// The entry the user chose, nothing where none is: an entry marked current by the focus alone
+// is not chosen.
+const QListWidgetItem* Chosen_Entry(const QListWidget* list) {
+  const QList<QListWidgetItem*> chosen = list->selectedItems();
+  return chosen.isEmpty() ? nullptr : chosen.front();
+}
+
 std::optional<Value> Number_Of_Entry(const QString& entry) {
   return Value(organizer::Record_Number_Of_Entry(entry.toStdString()));
 }
 
 std::optional<Value> Selected_Task_List_Entry(frmScheduler_Reminder& organizer, const Value&) {
-  const QListWidgetItem* selected = organizer.lstScheduleList->currentItem();
+  const QListWidgetItem* selected = Chosen_Entry(organizer.lstScheduleList);
   if (selected == nullptr) return std::nullopt;
   return Number_Of_Entry(selected->text());
 }
@@ -90,16 +97,23 @@ constexpr NumberRoute kNumberRoutes[] = {
 
 }  // namespace
 
+void frmScheduler_Reminder::On_Choice(QListWidget* list, const QListWidgetItem*& chosen,
+                                      const std::function<void()>& click) {
+  connect(list, &QListWidget::itemSelectionChanged, this, [list, &chosen, click] {
+    const QListWidgetItem* now = Chosen_Entry(list);
+    if (now == chosen) return;
+    chosen = now;
+    if (now != nullptr) click();
+  });
+}
+
 void frmScheduler_Reminder::Connect_Tasks() {
-  // A list's click is a change of its selection, by the mouse or by the arrow keys; emptying the
-  // list selects nothing and is no click.
-  connect(lstListOfPeople, &QListWidget::currentRowChanged, this, [this](int row) {
-    if (row >= 0) lstListOfPeople_Click();
-  });
+  // A list's click is a choice of an entry, by the mouse or by the arrow keys. Emptying the list,
+  // and the focus coming to it by Tab (which marks an entry current without choosing it), are no
+  // clicks.
+  On_Choice(lstListOfPeople, chosen_member_, [this] { lstListOfPeople_Click(); });
   connect(cmdShowTaskList, &QPushButton::clicked, this, [this] { cmdShowTaskList_Click(); });
-  connect(lstScheduleList, &QListWidget::currentRowChanged, this, [this](int row) {
-    if (row >= 0) lstScheduleList_Click();
-  });
+  On_Choice(lstScheduleList, chosen_task_, [this] { lstScheduleList_Click(); });
   connect(lstScheduleList, &QListWidget::itemDoubleClicked, this, [this] { lstScheduleList_DblClick(); });
   connect(cmdViewTaskInformation, &QPushButton::clicked, this, [this] { cmdViewTaskInformation_Click(); });
   connect(optDisplayAll, &QRadioButton::toggled, this, [this](bool set) {
@@ -117,7 +131,7 @@ void frmScheduler_Reminder::Connect_Tasks() {
 
 void frmScheduler_Reminder::Display_A_Persons_TaskList() {
   lstScheduleList->clear();
-  const QListWidgetItem* selected = lstListOfPeople->currentItem();
+  const QListWidgetItem* selected = Chosen_Entry(lstListOfPeople);
   const std::string member = selected != nullptr ? selected->text().toStdString() : std::string();
   controls::Set_Caption(lblGroupMemberName, member);
   std::optional<organizer::TaskFilter> filter;

@@ -97,7 +97,8 @@ bool Period_Within_Task(const MomentFields& start, const MomentFields& finish, c
 
 int Chart_Column(std::int64_t hour, std::int64_t minute) {
   const std::int64_t column = kChartColumns / kHoursPerPeriod * (hour % kHoursPerPeriod) + minute / kMinutesPerColumn;
-  return static_cast<int>(std::min<std::int64_t>(column, kLastColumn));
+  // A minute out of its range (a log written by hand) stays within the row.
+  return static_cast<int>(std::clamp<std::int64_t>(column, 0, kLastColumn));
 }
 
 std::optional<TaskCells> Cells_Of_Task(const ScheduleRecord& task, const ChartView& view, int row) {

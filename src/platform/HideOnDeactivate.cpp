@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QTimer>
 
 #include "platform/message_box.h"
 
@@ -20,12 +21,23 @@ int HideOnDeactivate::Show_Message(const Message& message) {
 }
 
 bool HideOnDeactivate::eventFilter(QObject* watched, QEvent* event) {
-  // A message box is not another window of the program.
-  if (watched == &window_ && event->type() == QEvent::WindowDeactivate && !showing_message_ &&
-      qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr) {
-    window_.hide();
+  // Which window took over is known only once the activation has gone through.
+  if (watched == &window_ && event->type() == QEvent::WindowDeactivate) {
+    QTimer::singleShot(0, this, [this] { Hide_If_Another_Window_Is_Active(); });
   }
   return QObject::eventFilter(watched, event);
+}
+
+// Another program taking the focus, or this window's own message box, leaves the window where it
+// is: only another window of this program puts it away.
+void HideOnDeactivate::Hide_If_Another_Window_Is_Active() {
+  const QWidget* active = QApplication::activeWindow();
+  if (active == nullptr || active == &window_ || showing_message_) return;
+  if (qobject_cast<const QMessageBox*>(active) != nullptr ||
+      qobject_cast<const QMessageBox*>(QApplication::activeModalWidget()) != nullptr) {
+    return;
+  }
+  window_.hide();
 }
 
 }  // namespace orrivane

@@ -23,6 +23,8 @@ class HideOnDeactivate : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void Hide_If_Another_Window_Is_Active();
+
   QWidget& window_;
   bool showing_message_ = false;
 };

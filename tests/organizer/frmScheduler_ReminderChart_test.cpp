@@ -9,6 +9,7 @@
 #include "organizer/organizer_callers.h"
 #include "organizer/organizer_window_test.h"
 #include "calendar/Form1.h"
+#include "organizer/frmTaskInformation.h"
 
 namespace orrivane {
 namespace {
@@ -163,6 +164,40 @@ TEST_F(OrganizerChartTest, OfTwoTasksInTheSameTenMinutesTheLaterInTheLogOwnsTheC
   EXPECT_EQ(Owner(15), Value(1));
 }
 
+TEST_F(OrganizerChartTest, AClickOnTheOverlapOpensTheLaterTask) {
+  machine().Set_Now(2001, 3, 5, 14, 0);
+  Add_Member("Anna");
+  Add_Task(Chart_Task(1, "Anna", {"March", 5, 2001, 14, 0}, {"March", 5, 2001, 14, 35}, kBlue));
+  Add_Task(Moment_Task(2, "Anna", {"March", 5, 2001, 14, 25}, kGreen));
+  Open();
+  QTest::mouseClick(Cell(14), Qt::LeftButton);
+  const frmTaskInformation& task = Window<frmTaskInformation>();
+  ASSERT_TRUE(task.isVisible());
+  EXPECT_EQ(controls::Caption(task.lblRecordNumber), "2");
+  QTest::mouseClick(Cell(13), Qt::LeftButton);
+  EXPECT_EQ(controls::Caption(task.lblRecordNumber), "1");
+  EXPECT_TRUE(machine().Messages().empty());
+}
+
+TEST_F(OrganizerChartTest, AClickOnAnEmptyCellTellsThatNoTaskIsThere) {
+  machine().Set_Now(2001, 3, 5, 14, 0);
+  Add_Member("Anna");
+  Open();
+  machine().Answer_Next(platform::vbOK, "No Event Scheduled");
+  QTest::mouseClick(Cell(3), Qt::LeftButton);
+  ASSERT_EQ(machine().Messages().size(), 1u);
+  EXPECT_EQ(machine().Messages()[0].text,
+            "There is currently no event record available for Anna for this time period.");
+  machine().Answer_Next(platform::vbOK, "No Event Scheduled");
+  QTest::mouseClick(Cell(organizer::Chart_Cell(10, 3)), Qt::LeftButton);  // a row with no member
+  ASSERT_EQ(machine().Messages().size(), 2u);
+  EXPECT_EQ(machine().Messages()[1].text,
+            "There is currently no event record available for this person for this time period.");
+  EXPECT_EQ(machine().Messages()[1].buttons, platform::vbOKOnly);
+  EXPECT_EQ(machine().Messages()[1].icon, platform::vbNoIcon);
+  EXPECT_FALSE(Window<frmTaskInformation>().isVisible());
+}
+
 TEST_F(OrganizerChartTest, ARefreshClearsWhatTheViewBeforePainted) {
   machine().Set_Now(2001, 3, 5, 14, 0);
   Add_Member("Anna");
@@ -216,9 +251,11 @@ TEST_F(OrganizerChartTest, TheViewReaches1599AndTheButtonGoesGreyAtThePressAfter
   Earlier();
   EXPECT_EQ(Period(), "Evening, December 31, 1599");
   EXPECT_TRUE(organizer().cmdEarlier->isEnabled());
+  Add_Member("Zoe");  // a refused step still brings the members up to date
   Earlier();
   EXPECT_EQ(Period(), "Evening, December 31, 1599");
   EXPECT_EQ(Head(0), "6:00");
+  EXPECT_EQ(organizer().lstListOfPeople->count(), 1);
   EXPECT_FALSE(organizer().cmdEarlier->isEnabled());
   EXPECT_FALSE(Menu("mnuEarlierTimePeriod")->isEnabled());
   // The key of a grey entry does nothing; Later moves and opens the way back.

@@ -77,6 +77,19 @@ TEST_F(frmScheduler_ReminderTasksTest, TheArrowKeysChooseTheNextMember) {
   EXPECT_EQ(Entries(Tasks()), std::vector<std::string>{"2001, 03Mar 05, 09:00 Gym, #2"});
 }
 
+// Tab brings the focus to a list and marks an entry current, which chooses nothing.
+TEST_F(frmScheduler_ReminderTasksTest, TheFocusComingToAListByTabChoosesNothing) {
+  organizer().cmdShowTaskList->setFocus();
+  Press_Keys(organizer(), QKeySequence(Qt::Key_Backtab));
+  ASSERT_TRUE(organizer().lstListOfPeople->hasFocus());
+  EXPECT_EQ(Caption(organizer().lblGroupMemberName), "");
+  Choose_Member("Anna");
+  organizer().cmdShowTaskList->setFocus();
+  Press_Keys(organizer(), QKeySequence(Qt::Key_Tab));
+  ASSERT_TRUE(Tasks()->hasFocus());
+  EXPECT_FALSE(organizer().cmdViewTaskInformation->isEnabled());
+}
+
 TEST_F(frmScheduler_ReminderTasksTest, TwoTasksDifferingOnlyInTheNumberListTenBeforeNine) {
   Write_Log({Task_At(9, "Anna", 2001, "March", "05", "14", "30"), Task_At(10, "Anna", 2001, "March", "05", "14", "30")});
   Choose_Member("Anna");

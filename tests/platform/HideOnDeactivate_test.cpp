@@ -2,7 +2,9 @@
 // while its own message box has the focus.
 #include "platform/HideOnDeactivate.h"
 
+#include <QApplication>
 #include <QCoreApplication>
+#include <QTest>
 #include <QEvent>
 #include <QMessageBox>
 #include <QWidget>
@@ -29,8 +31,22 @@ class HideOnDeactivateTest : public testing::WindowTest {
 };
 
 TEST_F(HideOnDeactivateTest, AnotherWindowBecomingActivePutsItAway) {
-  Deactivate();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  Process_Events();
   EXPECT_FALSE(window_.isVisible());
+}
+
+// Another program taking the focus deactivates the window with none of this program's active.
+TEST_F(HideOnDeactivateTest, LosingTheFocusToAnotherProgramKeepsIt) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  QApplication::setActiveWindow(nullptr);  // what the window system does when another program takes over
+  Process_Events();
+  ASSERT_EQ(QApplication::activeWindow(), nullptr);
+  EXPECT_TRUE(window_.isVisible());
 }
 
 TEST_F(HideOnDeactivateTest, ItsMessageIsShownAndAnswered) {
@@ -47,6 +63,7 @@ TEST_F(HideOnDeactivateTest, AMessageBoxTakingTheFocusDoesNotPutItAway) {
   bool stayed = false;
   When_Modal([&] {
     Deactivate();
+    Process_Events();
     stayed = window_.isVisible();
     box.accept();
   });
