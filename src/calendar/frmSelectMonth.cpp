@@ -1,8 +1,5 @@
 #include "calendar/frmSelectMonth.h"
 
-#include <QApplication>
-#include <QEvent>
-#include <QMessageBox>
 
 #include "calendar/Form1.h"
 #include "calendar/frmLargeCalendar.h"
@@ -10,6 +7,7 @@
 #include "core/text.h"
 #include "core/value.h"
 #include "engine/calendar_engine.h"
+#include "platform/HideOnDeactivate.h"
 #include "platform/controls.h"
 #include "platform/message_box.h"
 #include "platform/window_registry.h"
@@ -22,6 +20,8 @@ frmSelectMonth::frmSelectMonth() {
   Build_Controls();
   Place_Controls();
   Connect_Controls();
+  // The window puts itself away when another window of the program becomes active.
+  hide_on_deactivate_ = new HideOnDeactivate(*this);
 }
 
 void frmSelectMonth::Build_Controls() {
@@ -83,21 +83,8 @@ std::string frmSelectMonth::Selected_Style() const { return optJulian->isChecked
 
 void frmSelectMonth::cmdCancel_Click() { hide(); }
 
-bool frmSelectMonth::event(QEvent* event) {
-  if (event->type() == QEvent::WindowDeactivate) Form_Deactivate();
-  return QWidget::event(event);
-}
-
-void frmSelectMonth::Form_Deactivate() {
-  // A message box is not another window of the program: the entries stay for correction.
-  if (showing_message_ || qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr) return;
-  hide();
-}
-
 void frmSelectMonth::Show_Entry_Message(int status) {
-  showing_message_ = true;
-  platform::Show_Message(calendar::Select_Month_Entry_Message(status));
-  showing_message_ = false;
+  hide_on_deactivate_->Show_Message(calendar::Select_Month_Entry_Message(status));
 }
 
 void frmSelectMonth::cmdDisplay_Click() {

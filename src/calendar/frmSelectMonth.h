@@ -13,6 +13,8 @@
 
 namespace orrivane {
 
+class HideOnDeactivate;
+
 class frmSelectMonth : public QWidget {
   Q_OBJECT
  public:
@@ -33,11 +35,6 @@ class frmSelectMonth : public QWidget {
   // Checks the entries; on success draws the month on both calendar windows and hides.
   void cmdDisplay_Click();
   void cmdCancel_Click();
-  // The window lost the focus to another window of the program: it hides.
-  void Form_Deactivate();
-
- protected:
-  bool event(QEvent* event) override;
 
  private:
   void Build_Controls();
@@ -48,9 +45,7 @@ class frmSelectMonth : public QWidget {
   void Show_Entry_Message(int status);
   void Display_Month(const std::string& month, long long year, const std::string& style);
 
-  // Set while a message box of this window is up: the box takes the focus, and that must not
-  // put the window away with the user's entries.
-  bool showing_message_ = false;
+  HideOnDeactivate* hide_on_deactivate_;
 };
 
 }  // namespace orrivane
