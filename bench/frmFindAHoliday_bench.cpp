@@ -122,6 +122,23 @@ void List_The_Whole_Reach() {
   Ask_All_By_Year("1583", QString::number(holidays::kHolidayYearLimit));
 }
 
+// Runs `action` at each iteration on an emptied list, until the list has been laid out and
+// painted, and tells what the last time cost in memory.
+template <class Action>
+void Each_Time_Into_An_Empty_List(benchmark::State& state, Action action) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    Clear_List();
+    const Memory_Watch memory;
+    state.ResumeTiming();
+    action();
+    QCoreApplication::processEvents();
+    state.PauseTiming();
+    memory.Report(state);
+    state.ResumeTiming();
+  }
+}
+
 void Report_Lines(benchmark::State& state) {
   const auto lines = static_cast<double>(Find().List_Count());
   state.counters["lines"] = lines;
@@ -144,21 +161,9 @@ BENCHMARK(BM_DisplayAllByYear_1000_Years)->Unit(benchmark::kMillisecond);
 // From 1583 to the last year, yielding to the window system between batches.
 void BM_DisplayAllByYear_Whole_Reach(benchmark::State& state) {
   Open_Window();
-  std::int64_t yields = 0;
-  for (auto _ : state) {
-    state.PauseTiming();
-    Clear_List();
-    const std::int64_t yields_before = machine->yields;
-    const Memory_Watch memory;
-    state.ResumeTiming();
-    Ask_All_By_Year("1583", QString::number(holidays::kHolidayYearLimit));
-    // Until the list has been laid out and painted.
-    QCoreApplication::processEvents();
-    state.PauseTiming();
-    yields = machine->yields - yields_before;
-    memory.Report(state);
-    state.ResumeTiming();
-  }
+  const std::int64_t yields_before = machine->yields;
+  Each_Time_Into_An_Empty_List(state, [] { Ask_All_By_Year("1583", QString::number(holidays::kHolidayYearLimit)); });
+  const std::int64_t yields = (machine->yields - yields_before) / state.iterations();
   Report_Lines(state);
   state.counters["yields"] = static_cast<double>(yields);
 }
@@ -205,17 +210,7 @@ void Open_List_File(const QString& name) {
 void BM_Open_Whole_Reach_File(benchmark::State& state) {
   Open_Window();
   Write_Whole_Reach_File();
-  for (auto _ : state) {
-    state.PauseTiming();
-    Clear_List();
-    const Memory_Watch memory;
-    state.ResumeTiming();
-    Open_List_File(kWholeReachFile);
-    QCoreApplication::processEvents();
-    state.PauseTiming();
-    memory.Report(state);
-    state.ResumeTiming();
-  }
+  Each_Time_Into_An_Empty_List(state, [] { Open_List_File(kWholeReachFile); });
   Report_Lines(state);
   state.counters["file_MB"] = static_cast<double>(QFileInfo(kWholeReachFile).size()) / kBytesPerMegabyte;
 }
@@ -237,21 +232,13 @@ void Write_Long_Line_File() {
 void BM_Open_And_Select_Long_Line(benchmark::State& state) {
   Open_Window();
   Write_Long_Line_File();
-  QListView* list = Find().lstListHolidayDates;
-  for (auto _ : state) {
-    state.PauseTiming();
-    Clear_List();
-    const Memory_Watch memory;
-    state.ResumeTiming();
+  Each_Time_Into_An_Empty_List(state, [] {
     Open_List_File(kLongLineFile);
+    QListView* list = Find().lstListHolidayDates;
     const QModelIndex first = Find().lstListHolidayDates_Lines->index(0);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(10, list->visualRect(first).center().y()));
     list->viewport()->repaint();
-    QCoreApplication::processEvents();
-    state.PauseTiming();
-    memory.Report(state);
-    state.ResumeTiming();
-  }
+  });
   state.counters["selected"] = Find().List_Index();
 }
 BENCHMARK(BM_Open_And_Select_Long_Line)->Unit(benchmark::kMillisecond)->Iterations(1);
