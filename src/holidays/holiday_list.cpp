@@ -46,6 +46,7 @@ void Holiday_List::Reserve(std::size_t more) { rows_.reserve(rows_.size() + more
 void Holiday_List::Append_Entry(int holiday, int year) { rows_.push_back(Entry_Row(holiday, year)); }
 
 void Holiday_List::Append_Texts(Holiday_List_Texts&& texts) {
+  if (texts.Count() == 0) return;
   const std::size_t first = texts_.Count();
   // Beyond this no list could show its rows (they are counted in ints), and the file would be
   // some gigabytes of lines: the count overflows, as a list box's would.
@@ -63,7 +64,7 @@ void Holiday_List::Append_Texts(Holiday_List_Texts&& texts) {
 
 void Holiday_List::Append_Behind(Holiday_List_Texts&& texts) {
   const std::uint32_t shift = texts_.ends.back();
-  const std::size_t length = texts.Count() == 0 ? 0 : texts.ends.back();
+  const std::size_t length = texts.ends.back();
   if (std::size_t{shift} + length > kLongestTexts) throw RuntimeFailure(kOverflow);
   auto bytes = std::make_unique_for_overwrite<char[]>(shift + length);
   std::copy_n(texts_.bytes.get(), shift, bytes.get());

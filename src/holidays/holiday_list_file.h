@@ -54,7 +54,8 @@ class Holiday_List_Writer {
 // cut fails; the lines handed on before a failure stay handed on.
 void Read_Holiday_List_File(const std::string& path, const std::function<void(std::string)>& add_line);
 // The same reading into the end of `list`, in one read into the list's own buffer, the lines
-// cut there in place; the lines read before a failure stay in the list.
+// cut there in place; the lines read before a failure stay in the list. A file of more than
+// 4 GB is more than a list keeps, and fails with an overflow (6) before it is read.
 void Read_Holiday_List_File(const std::string& path, Holiday_List& list);
 
 // Month, date and year of a list line, as texts: "April", "20", "2003" from the line for Easter
