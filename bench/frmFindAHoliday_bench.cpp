@@ -7,11 +7,10 @@
 // before it, peak_growth the most it held more while acting, peak the program's whole peak.
 #include <benchmark/benchmark.h>
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QListView>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <cstdio>
@@ -24,30 +23,15 @@
 #include "holidays/frmFindAHoliday.h"
 #include "holidays/holiday_list_file.h"
 #include "holidays/holiday_rules.h"
-#include "platform/qt_platform.h"
 #include "platform/window_registry.h"
 #include "shell/frmOpenFile.h"
+#include "window_bench.h"
 
 namespace {
 
 using namespace orrivane;
 
-// The machine's own platform, but a message box ends the run: every request here is valid, so a
-// message means the benchmark no longer measures what it says.
-class BenchPlatform : public platform::QtPlatform {
- public:
-  int Message_Box(const std::string& text, int, int, const std::string& title) override {
-    std::fprintf(stderr, "a benchmark met a message box: [%s] %s\n", title.c_str(), text.c_str());
-    std::abort();
-  }
-  void Yield() override {
-    ++yields;
-    QtPlatform::Yield();
-  }
-  std::int64_t yields = 0;
-};
-
-BenchPlatform* machine = nullptr;
+using bench::machine;
 
 frmFindAHoliday& Find() { return Window<frmFindAHoliday>(); }
 
@@ -274,21 +258,4 @@ BENCHMARK(BM_Clear_Whole_Reach)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  platform::Application app(argc, argv);
-  BenchPlatform bench_machine;
-  machine = &bench_machine;
-  platform::Install(&bench_machine);
-  // The program writes its working files into the current folder.
-  QTemporaryDir folder;
-  QDir::setCurrent(folder.path());
-
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  Unload_All_Windows();
-  platform::Install(nullptr);
-  return 0;
-}
+int main(int argc, char** argv) { return orrivane::bench::Run_Window_Benchmarks(argc, argv); }

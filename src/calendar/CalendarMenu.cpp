@@ -25,7 +25,7 @@ void Convert_This_Date() { Window<Form1>().Cal_Conversion(); }
 // Both windows print the month of Form1.
 void Print_Calendar() { Window<Form1>().Print_Calendar(); }
 void Select_Month() { controls::Show_In_Front(Window<frmSelectMonth>()); }
-void Find_A_Dates_Weekday() { Window<frmFindADate>().show(); }
+void Find_A_Dates_Weekday() { controls::Show_In_Front(Window<frmFindADate>()); }
 void Find_Holiday_Dates() { controls::Show_In_Front(Window<frmFindAHoliday>()); }
 void New_Log() { Window<frmScheduler_Reminder>().Open_New_Schedule(); }
 void Save_Log() { Window<frmScheduler_Reminder>().Quick_Schedule_File_Save(); }
@@ -33,8 +33,8 @@ void Save_Log_As() { Window<frmScheduler_Reminder>().Activate_Save_File_Window()
 void Organizer() { controls::Show_In_Front(Window<frmScheduler_Reminder>()); }
 void Find_Time_Length() { controls::Show_In_Front(Window<frmFindDateDifference>()); }
 void Help_Contents() { controls::Show_In_Front(Window<frmHelpContents>()); }
-void License() { Window<frmLiscense>().show(); }
-void About() { Window<frmAbout>().show(); }
+void License() { controls::Show_In_Front(Window<frmLiscense>()); }
+void About() { controls::Show_In_Front(Window<frmAbout>()); }
 
 constexpr const char* kAbsent = nullptr;  // the entry is not in that window's menu
 

@@ -135,7 +135,7 @@ void Form1::Connect_Controls() {
   on_click(CmdConvert, &Form1::Cal_Conversion);
   on_click(cmdPrintTheCalendar, &Form1::Print_Calendar);
   connect(cmdDisplayMonthOnCalendar, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmSelectMonth>()); });
-  connect(cmdFindADatesWeekday, &QPushButton::clicked, this, [] { Window<frmFindADate>().show(); });
+  connect(cmdFindADatesWeekday, &QPushButton::clicked, this, [] { controls::Show_In_Front(Window<frmFindADate>()); });
   connect(cmdFindHolidayDates, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmFindAHoliday>()); });
   connect(cmdOrganizer, &QPushButton::clicked, this, [] { Show_In_Front(Window<frmScheduler_Reminder>()); });
   connect(cmdExit, &QPushButton::clicked, this, [this] { Terminate_This_Program(calendar::kForm1CmdExitClick); });

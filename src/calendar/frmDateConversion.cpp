@@ -61,7 +61,7 @@ frmDateConversion::frmDateConversion() {
 }
 
 void frmDateConversion::Show_Conversion(const engine::ConvertResult& result) {
-  show();
+  controls::Show_In_Front(*this);
   controls::Set_Caption(lblEquivalent, result.lblEquivalent);
   controls::Set_Caption(lblDate1, result.lblDate1);
   controls::Set_Caption(lblDifference, result.lblDifference);

@@ -19,14 +19,7 @@ using controls::Text_Of;
 
 using controls::Make_Button;
 
-QComboBox* Make_Combo(QWidget* parent, const char* name, bool editable) {
-  auto* combo = new QComboBox(parent);
-  combo->setObjectName(name);
-  combo->setEditable(editable);
-  // An entry typed into an editable box is read as it stands, never added to the list.
-  combo->setInsertPolicy(QComboBox::NoInsert);
-  return combo;
-}
+using controls::Make_Combo;
 
 // "00" to "99", or "01" to "31".
 void Add_Two_Digit_Numbers(QComboBox* combo, int first, int last) {

@@ -12,6 +12,7 @@
 #include "engine/calendar_engine.h"
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/log_file.h"
+#include "organizer/organizer_callers.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
 #include "shell/shell_callers.h"
@@ -62,6 +63,8 @@ void frmLargeCalendar::Build_Controls() {
   cboShowTaskListFor = new DropDownComboBox(body, [this] { cboShowTaskListFor_DropDown(); });
   cboShowTaskListFor->setObjectName("cboShowTaskListFor");
   cboShowTaskListFor->setEditable(true);
+  cboShowTaskListFor->setCompleter(nullptr);  // a name is taken as typed
+  cboShowTaskListFor->setInsertPolicy(QComboBox::NoInsert);
   for (int i = 0; i < engine::kGridCells; ++i) {
     cboAppointments[i] = new QComboBox(body);
     cboAppointments[i]->setObjectName(controls::Array_Name("cboAppointments", i));
@@ -102,6 +105,11 @@ void frmLargeCalendar::Connect_Controls() {
   menu->On("mnuWindowed", [this] { setWindowState(Qt::WindowNoState); });
   menu->On("mnuSmallWindow", [this] { Activate_Form1(); });
   connect(cboShowTaskListFor, &QComboBox::activated, this, [this] { Refresh_Calendar_TaskList(); });
+  for (int k = 0; k < engine::kGridCells; ++k) {
+    connect(cboAppointments[k], &QComboBox::activated, this, [k] {
+      Window<frmScheduler_Reminder>().View_Task_Event_Information(organizer::kCboAppointmentsClick, k);
+    });
+  }
 }
 
 void frmLargeCalendar::Show_Month_Heading(const std::string& month_and_year, const std::string& style,

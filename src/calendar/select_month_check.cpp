@@ -1,5 +1,6 @@
 #include "calendar/select_month_check.h"
 
+#include <cmath>
 #include <optional>
 
 #include "core/runtime_failure.h"
@@ -10,14 +11,18 @@ namespace orrivane::calendar {
 
 namespace {
 
-// The number the year text stands for; nothing when it is no number (or too large to hold,
-// which fails the conversion just the same).
+// The whole number the year text stands for; nothing when it is no number, a number with a
+// fraction (a year is counted in whole years), or too large to hold, which fails the conversion
+// just the same.
 std::optional<double> Year_Number(const std::string& year_text) {
+  std::optional<double> year;
   try {
-    return Parse_Number(year_text);
+    year = Parse_Number(year_text);
   } catch (const RuntimeFailure&) {
     return std::nullopt;
   }
+  if (year && std::trunc(*year) != *year) return std::nullopt;
+  return year;
 }
 
 // The Gregorian calendar begins in October 1582; a month that is not chosen lies before it.

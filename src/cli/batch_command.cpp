@@ -2,6 +2,7 @@
 // empty line on standard output, to the end of the input.
 #include <iostream>
 #include <string>
+#include <string_view>
 
 #include "cli/command_error.h"
 #include "cli/commands.h"
@@ -10,6 +11,8 @@
 namespace orrivane::cli {
 
 namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // The answers wait in the output buffer while more input is at hand, and go out before the
 // tool would sit waiting for a line: fast on a file, prompt in a dialogue through pipes.
@@ -21,14 +24,14 @@ bool Next_Line(std::istream& in, Output& out, std::string& line) {
 }
 
 void Run_Line(const std::string& line, Command_Context& context) {
-  const std::optional<std::vector<std::string>> words = Split_Shell_Words(line);
+  std::optional<std::vector<std::string>> words = Split_Shell_Words(line);
   std::optional<std::string> error;
   if (!words) {
     error = Error_Line("Usage", "the line ends inside quotes or after a backslash.");
   } else if (words->empty()) {
     return;  // nothing but blanks or a comment
   } else {
-    error = Run_Command(*words, context);
+    error = Run_Command(std::move(*words), context);
   }
   if (error) context.out.Line(*error);
   context.out.Line("");
@@ -38,9 +41,17 @@ void Run_Line(const std::string& line, Command_Context& context) {
 
 void Run_Batch(const Arguments&, Command_Context& context) {
   if (context.in_batch) throw Command_Error("Usage", "batch does not run inside batch.");
-  Command_Context batch{context.out, true};
+  std::istream& in = std::cin;
+  Output& out = context.out;
+  Command_Context batch{out, true};
   std::string line;
-  while (Next_Line(std::cin, batch.out, line)) Run_Line(line, batch);
+  if (!Next_Line(in, out, line)) return;
+  // A byte-order mark, which some editors put at the start of a text file, is no command.
+  if (line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
+  // Once the answers cannot be written, the rest would be answered to nobody.
+  do {
+    Run_Line(line, batch);
+  } while (!out.Write_Failure() && Next_Line(in, out, line));
 }
 
 }  // namespace orrivane::cli

@@ -31,7 +31,7 @@ const char* Calculate_Name(std::string_view name) {
     if (row.name == name) return row.calculate_name;
   }
   throw Command_Error("Unknown Operation",
-                      "\"" + std::string(name) + "\" is none of Add, Subtract, Multiply, Compare, Divide, Remainder.");
+                      Quoted(name) + " is none of Add, Subtract, Multiply, Compare, Divide, Remainder.");
 }
 
 }  // namespace

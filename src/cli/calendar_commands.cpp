@@ -1,5 +1,6 @@
 // weekday, month and convert: the calendar engine's weekday, month layout and style conversion,
 // with the checks and messages of the windows that ask for them.
+#include <array>
 #include <string>
 
 #include "calendar/select_month_check.h"
@@ -27,17 +28,32 @@ std::string Grid_Row(const engine::MonthGrid& grid, int row) {
   return line;
 }
 
+constexpr int kDaysInWeek = 7;  // weekdays 1 (Sunday) to 7 (Saturday)
+
+// The name of a weekday 1 to 7, as the vocabulary names it, asked once for each.
+const std::string& Weekday_Name(int weekday) {
+  static const std::array<std::string, kDaysInWeek + 1> kNames = [] {
+    std::array<std::string, kDaysInWeek + 1> names;
+    for (int day = 1; day <= kDaysInWeek; ++day) {
+      names[static_cast<std::size_t>(day)] = engine::Define_Weekday(day, "Get Weekday Name").text();
+    }
+    return names;
+  }();
+  return kNames.at(static_cast<std::size_t>(weekday));
+}
+
 }  // namespace
 
 // The weekday of a date as the main grid's Calendarr decides it, its message when it refuses.
 void Run_Weekday(const Arguments& arguments, Command_Context& context) {
-  const std::string month = Required_Month_Name(arguments.operands[0]);
-  const std::int64_t date = Date_Of(arguments.operands[1]);
+  std::string month = Required_Month_Name(arguments.operands[0]);
+  const Day day = Day_Of(arguments.operands[1]);
   const std::int64_t year = Year_Of(arguments.operands[2]);
-  const engine::CalendarrDate when = engine::Calendarr_Date_From_Year(month, date, year, Style_Of(arguments));
+  const engine::CalendarrDate when =
+      engine::Calendarr_Date_From_Year(std::move(month), day.value, year, Style_Of(arguments));
   const engine::CalendarrResult result = engine::Calendarr_Compute(when);
-  if (result.error_code != 0) throw Command_Error(result.message);
-  context.out.Line(engine::Define_Weekday(result.weekday, "Get Weekday Name").text());
+  if (result.error_code != 0) throw Command_Error(Refusal_Of_Day(result.message, day));
+  context.out.Line(Weekday_Name(result.weekday));
 }
 
 // The month as "View Month On Calendar" draws it, after that window's checks. An empty month is
@@ -61,11 +77,12 @@ void Run_Month(const Arguments& arguments, Command_Context& context) {
 void Run_Convert(const Arguments& arguments, Command_Context& context) {
   engine::ConvertDate date;
   date.month = Required_Month_Name(arguments.operands[0]);
-  date.date = Date_Of(arguments.operands[1]);
+  const Day day = Day_Of(arguments.operands[1]);
+  date.date = day.value;
   date.year = Year_Of(arguments.operands[2]);
   date.style = Style_Of(arguments);
   const engine::ConvertResult result = engine::Convert_Compute(date);
-  if (result.error_code != 0) throw Command_Error(result.message);
+  if (result.error_code != 0) throw Command_Error(Refusal_Of_Day(result.message, day));
   context.out.Line(result.lblDate2 + "\t" + result.lblDifference);
 }
 

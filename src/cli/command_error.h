@@ -4,6 +4,7 @@
 // argument checks.
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include "core/message.h"
 
@@ -22,6 +23,11 @@ class Command_Error : public std::runtime_error {
   std::string title_;
   std::string text_;
 };
+
+// A word of the input as an error line shows it: between double quotes, its control characters
+// escaped (\t, \n, \r, else \xHH), so that what the user typed can be seen and the error stays
+// one line that a terminal shows as it is.
+std::string Quoted(std::string_view input);
 
 // "error: TITLE: TEXT" on one line: the line breaks of a message box become blanks, and runs of
 // blanks one blank.

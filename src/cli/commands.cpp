@@ -67,14 +67,16 @@ const Option_Spec* Find_Option(const Command_Spec& command, std::string_view nam
 }
 
 // Options are the words that name one of the command's options ("--units ymd" or
-// "--units=ymd"), up to a "--"; every other word is an operand, so that "-5" is a year.
-Arguments Parse_Arguments(const Command_Spec& command, std::span<const std::string> words) {
+// "--units=ymd"), up to a "--"; every other word is an operand, so that "-5" is a year. The
+// words are the command's name and what follows it; the operands keep their storage.
+Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string> words) {
   Arguments arguments;
+  std::size_t operands = 0;
   bool options_end = false;
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    const std::string& word = words[i];
-    if (options_end || word.rfind("--", 0) != 0) {
-      arguments.operands.push_back(word);
+  for (std::size_t i = 1; i < words.size(); ++i) {
+    std::string& word = words[i];
+    if (options_end || !word.starts_with("--")) {
+      words[operands++] = std::move(word);
       continue;
     }
     if (word == "--") {
@@ -82,7 +84,7 @@ Arguments Parse_Arguments(const Command_Spec& command, std::span<const std::stri
       continue;
     }
     const std::size_t equals = word.find('=');
-    const std::string name = word.substr(0, equals);
+    const std::string_view name = std::string_view(word).substr(0, equals);
     const Option_Spec* option = Find_Option(command, name);
     if (option == nullptr) Usage_Error(command);
     std::string value;
@@ -91,25 +93,27 @@ Arguments Parse_Arguments(const Command_Spec& command, std::span<const std::stri
       value = word.substr(equals + 1);
     } else if (option->takes_value) {
       if (i + 1 >= words.size()) Usage_Error(command);
-      value = words[++i];
+      value = std::move(words[++i]);
     }
-    arguments.options.emplace_back(name, std::move(value));
+    arguments.options.emplace_back(option->name, std::move(value));
   }
+  words.resize(operands);
+  arguments.operands = std::move(words);
   if (arguments.operands.size() < command.least_operands || arguments.operands.size() > command.most_operands) {
     Usage_Error(command);
   }
   return arguments;
 }
 
-void Run_Parsed(const std::vector<std::string>& words, Command_Context& context) {
+void Run_Parsed(std::vector<std::string> words, Command_Context& context) {
   if (words.empty()) {
     throw Command_Error("Usage", std::string(kProgram) + " COMMAND ...; " + std::string(kHelpHint));
   }
   const Command_Spec* command = Find_Command(words.front());
   if (command == nullptr) {
-    throw Command_Error("Unknown Command", "\"" + words.front() + "\" is no command; " + std::string(kHelpHint));
+    throw Command_Error("Unknown Command", Quoted(words.front()) + " is no command; " + std::string(kHelpHint));
   }
-  const Arguments arguments = Parse_Arguments(*command, std::span<const std::string>(words).subspan(1));
+  const Arguments arguments = Parse_Arguments(*command, std::move(words));
   command->run(arguments, context);
 }
 
@@ -124,9 +128,9 @@ const std::string* Arguments::Value_Of(std::string_view option) const {
   return nullptr;
 }
 
-std::optional<std::string> Run_Command(const std::vector<std::string>& words, Command_Context& context) {
+std::optional<std::string> Run_Command(std::vector<std::string> words, Command_Context& context) {
   try {
-    Run_Parsed(words, context);
+    Run_Parsed(std::move(words), context);
     return std::nullopt;
   } catch (const Command_Error& error) {
     return Error_Line(error.title(), error.text());

@@ -30,7 +30,7 @@ struct Command_Context {
 
 // Runs one command, its words without the program's name. The answer goes to the context's
 // output; a failure comes back as its error line ("error: TITLE: TEXT"), nothing is thrown.
-std::optional<std::string> Run_Command(const std::vector<std::string>& words, Command_Context& context);
+std::optional<std::string> Run_Command(std::vector<std::string> words, Command_Context& context);
 
 // ---- The handlers of the table. Each throws Command_Error (or the core's RuntimeFailure). ----
 

@@ -42,7 +42,7 @@ const Unit_Row& Row_Of_Letter(char letter) {
   for (const Unit_Row& row : kUnitRows) {
     if (row.letter == letter) return row;
   }
-  throw Command_Error("Invalid Units", "\"" + std::string(1, letter) + "\" is none of the letters y, m, d, h, M.");
+  throw Command_Error("Invalid Units", Quoted(std::string_view(&letter, 1)) + " is none of the letters y, m, d, h, M.");
 }
 
 // The ticks of the remaining mode: the letters of --units, every unit when it is not given.
@@ -55,7 +55,7 @@ elapsed::Ticked_Units Ticked_Units_Of(const std::string* letters) {
 }
 
 [[noreturn]] void Moment_Error(const std::string& moment) {
-  throw Command_Error("Invalid Moment", "\"" + moment + "\" is not of the form " + kMomentForm + ".");
+  throw Command_Error("Invalid Moment", Quoted(moment) + " is not of the form " + kMomentForm + ".");
 }
 
 // An hour or minute as the boxes hold it: one or two digits, up to `largest`.

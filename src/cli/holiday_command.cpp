@@ -37,7 +37,7 @@ Year_Boxes Year_Boxes_Of(const Arguments& arguments) {
 void By_Holiday(const std::string& name, Year_Boxes years, Output& out) {
   // The window offers the names of its list; an empty name is a holiday not chosen.
   if (!name.empty() && !holidays::Holiday_Number(name)) {
-    throw Command_Error("Unknown Holiday", "\"" + name + "\" is no holiday of the list.");
+    throw Command_Error("Unknown Holiday", Quoted(name) + " is no holiday of the list.");
   }
   Line_Printer printer(out);
   const holidays::Holiday_Answer answer =

@@ -1,5 +1,8 @@
 #include "cli/output.h"
 
+#include <cerrno>
+#include <cstring>
+
 namespace orrivane::cli {
 
 void Output::Line(std::string_view text) {
@@ -9,9 +12,12 @@ void Output::Line(std::string_view text) {
 }
 
 void Output::Flush() {
-  if (!buffer_.empty()) std::fwrite(buffer_.data(), 1, buffer_.size(), file_);
+  if (!failure_) {
+    errno = 0;
+    const bool written = std::fwrite(buffer_.data(), 1, buffer_.size(), file_) == buffer_.size();
+    if (std::fflush(file_) != 0 || !written) failure_ = std::strerror(errno != 0 ? errno : EIO);
+  }
   buffer_.clear();
-  std::fflush(file_);
 }
 
 }  // namespace orrivane::cli

@@ -1,7 +1,9 @@
 #pragma once
 // Buffered line output to a C stream: a batch of a hundred thousand answers must not cost a
-// hundred thousand writes.
+// hundred thousand writes. A failure to write (a full disk, a closed standard output) is kept,
+// so that the tool can say so and end with a failure instead of claiming an answer nobody got.
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,10 +20,15 @@ class Output {
   void Line(std::string_view text);
   void Flush();
 
+  // Why the output could not be written ("No space left on device"); nothing while it could.
+  // After a failure nothing more is written.
+  const std::optional<std::string>& Write_Failure() const { return failure_; }
+
  private:
   static constexpr std::size_t kFlushAt = 1 << 16;
   std::FILE* file_;
   std::string buffer_;
+  std::optional<std::string> failure_;
 };
 
 }  // namespace orrivane::cli

@@ -1,9 +1,6 @@
 #include "core/sequential_file.h"
 
 #include <cstdio>
-#include <filesystem>
-#include <iterator>
-#include <sstream>
 
 #include "core/runtime_failure.h"
 
@@ -18,9 +15,7 @@ std::string Join_Path(const std::string& directory, const std::string& name) {
 }
 
 SequentialWriter::SequentialWriter(const std::string& path, Mode mode)
-    : out_(path, std::ios::binary | (mode == Mode::Append ? std::ios::app : std::ios::trunc)) {
-  if (!out_) throw RuntimeFailure(kPathFileAccessError);
-}
+    : out_(PlainFile::Open(path, mode == Mode::Append ? PlainFile::Access::Append : PlainFile::Access::Write)) {}
 
 std::string SequentialWriter::Format(const Value& value) {
   if (!value.is_text()) return value.text();
@@ -39,28 +34,12 @@ void SequentialWriter::Write_Line(const std::vector<Value>& values) {
     line += Format(values[i]);
   }
   line += "\r\n";
-  out_ << line;
-  if (!out_) throw RuntimeFailure(kDeviceIOError);
+  if (!out_.Write(line)) throw RuntimeFailure(kDeviceIOError);
 }
 
-void SequentialWriter::Close() { out_.close(); }
+void SequentialWriter::Close() { out_.Close(); }
 
-namespace {
-
-// A directory opens as a stream on some systems and then reads as nothing; it is no file.
-bool Is_Directory(const std::string& path) {
-  std::error_code ignored;
-  return std::filesystem::is_directory(path, ignored);
-}
-
-}  // namespace
-
-SequentialReader::SequentialReader(const std::string& path) {
-  if (Is_Directory(path)) throw RuntimeFailure(kPathFileAccessError);
-  std::ifstream in(path, std::ios::binary);
-  if (!in) throw RuntimeFailure(kFileNotFound);
-  data_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
+SequentialReader::SequentialReader(const std::string& path) : data_(Read_Plain_File(path)) {}
 
 SequentialReader SequentialReader::From_Text(std::string content) {
   SequentialReader reader;
@@ -112,11 +91,7 @@ Value SequentialReader::Input() {
   return Value(std::move(raw));
 }
 
-bool File_Exists(const std::string& path) {
-  if (Is_Directory(path)) return false;
-  std::ifstream in(path, std::ios::binary);
-  return static_cast<bool>(in);
-}
+bool File_Exists(const std::string& path) { return PlainFile(path, PlainFile::Access::Read).Is_Open(); }
 
 void Empty_File(const std::string& path) { SequentialWriter(path).Close(); }
 

@@ -46,14 +46,7 @@ constexpr Comparison kComparisons[] = {
 using controls::Make_Label;
 using controls::Text_Of;
 
-QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable) {
-  auto* combo = new QComboBox(parent);
-  combo->setObjectName(name);
-  combo->setEditable(editable);
-  // A century typed into the box is read as it stands, never added to the list.
-  combo->setInsertPolicy(QComboBox::NoInsert);
-  return combo;
-}
+using controls::Make_Combo;
 
 QCheckBox* Make_Check(QWidget* parent, const char* name, const char* caption) {
   auto* check = new QCheckBox(caption, parent);

@@ -26,7 +26,7 @@ int Year_Of(std::uint32_t row) { return static_cast<int>(row & kYearMask); }
 
 std::string_view Holiday_List_Texts::Text(std::size_t index) const {
   const std::size_t start = index == 0 ? 0 : ends[index - 1];
-  return {bytes.get() + start, ends[index] - start};
+  return std::string_view(text).substr(start, ends[index] - start);
 }
 
 std::string Holiday_List::Line(std::size_t row) const {
@@ -66,11 +66,8 @@ void Holiday_List::Append_Behind(Holiday_List_Texts&& texts) {
   const std::uint32_t shift = texts_.ends.back();
   const std::size_t length = texts.ends.back();
   if (std::size_t{shift} + length > kLongestTexts) throw RuntimeFailure(kOverflow);
-  auto bytes = std::make_unique_for_overwrite<char[]>(shift + length);
-  std::copy_n(texts_.bytes.get(), shift, bytes.get());
-  std::copy_n(texts.bytes.get(), length, bytes.get() + shift);
-  texts_.bytes = std::move(bytes);
-  texts_.size = shift + length;
+  texts_.text.resize(shift);
+  texts_.text.append(texts.text, 0, length);
   for (const std::uint32_t end : texts.ends) texts_.ends.push_back(shift + end);
 }
 

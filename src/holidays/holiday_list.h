@@ -7,7 +7,6 @@
 // text, all of them in the one buffer the file was read into.
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,11 +21,10 @@ inline constexpr std::size_t kShownLineLength = 1000;
 inline constexpr std::size_t kLongestTexts = UINT32_MAX;
 
 // Texts one after the other in one buffer, and where each ends. The buffer is the one a file
-// was read into, its bytes left as they came where no text lies; the texts keep to its first
+// was read into, its bytes left as they came behind the last text; the texts keep to its first
 // 4 GB, so that an end takes four bytes.
 struct Holiday_List_Texts {
-  std::unique_ptr<char[]> bytes;
-  std::size_t size = 0;  // the bytes of the buffer
+  std::string text;
   std::vector<std::uint32_t> ends;
 
   std::size_t Count() const { return ends.size(); }

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
-#include <memory>
 
 #include "core/runtime_failure.h"
 #include "core/text.h"
@@ -27,36 +26,14 @@ bool Names_No_File(const std::string& path) {
 }
 
 // Texts bigger than a list keeps fail as the count of their bytes overflows.
-void Check_Length(std::uintmax_t length) {
+void Check_Length(std::size_t length) {
   if (length > kLongestTexts) throw RuntimeFailure(kOverflow);
 }
 
-// The file's bytes, read at once into a buffer of the file's length, one byte over so that the
-// read meets the end; a file that grows meanwhile, or tells no length, is read on in doubling
-// steps. The buffer is not cleared first: it is written over at once, and clearing a hundred
-// megabytes costs as much as reading them.
+// The file's bytes, read at once into the buffer the list will keep.
 Holiday_List_Texts Whole_File(const std::string& path) {
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw RuntimeFailure(kPathFileAccessError);
-  std::ifstream in(path, std::ios::binary);
-  if (!in) throw RuntimeFailure(kFileNotFound);
-  constexpr std::size_t kFirstStep = 1 << 16;
-  const std::uintmax_t length = std::filesystem::file_size(path, error);
-  if (!error) Check_Length(length);
-  Holiday_List_Texts texts;
-  std::size_t room = error ? kFirstStep : static_cast<std::size_t>(length) + 1;
-  texts.bytes = std::make_unique_for_overwrite<char[]>(room);
-  while (in) {
-    if (texts.size == room) {
-      Check_Length(2 * room);
-      auto larger = std::make_unique_for_overwrite<char[]>(2 * room);
-      std::copy_n(texts.bytes.get(), texts.size, larger.get());
-      texts.bytes = std::move(larger);
-      room *= 2;
-    }
-    in.read(texts.bytes.get() + texts.size, static_cast<std::streamsize>(room - texts.size));
-    texts.size += static_cast<std::size_t>(in.gcount());
-  }
+  Holiday_List_Texts texts{Read_Plain_File(path), {}};
+  Check_Length(texts.text.size());
   return texts;
 }
 
@@ -89,8 +66,8 @@ class Line_Ends {
 // one line being read before the first end-of-file test; a line of fewer than two characters
 // cannot be cut (5).
 int Cut_Records_In_Place(Holiday_List_Texts& texts) {
-  char* const bytes = texts.bytes.get();
-  const std::size_t size = texts.size;
+  char* const bytes = texts.text.data();
+  const std::size_t size = texts.text.size();
   // A record that can be cut takes three bytes at least, two characters and a line's end: room
   // for that many ends is reserved, and only the ones written are ever touched.
   constexpr std::size_t kShortestRecord = 3;
@@ -141,17 +118,13 @@ Message Invalid_File_Name_Refusal() { return {"Rename", "That file name is inval
 
 Holiday_List_Writer::Holiday_List_Writer(const std::string& path) {
   if (Names_No_File(path)) return;
-  out_.open(path, std::ios::binary | std::ios::trunc);
+  out_ = PlainFile(path, PlainFile::Access::Write);
 }
 
-void Holiday_List_Writer::Write_Record(std::string_view line) {
-  const std::string record = Holiday_List_Record(line);
-  out_.write(record.data(), static_cast<std::streamsize>(record.size()));
-}
+void Holiday_List_Writer::Write_Record(std::string_view line) { out_.Write(Holiday_List_Record(line)); }
 
 void Holiday_List_Writer::Close() {
-  out_.close();
-  if (out_.fail()) throw RuntimeFailure(kDeviceIOError);
+  if (!out_.Close()) throw RuntimeFailure(kDeviceIOError);
 }
 
 void Read_Holiday_List_File(const std::string& path, const std::function<void(std::string)>& add_line) {

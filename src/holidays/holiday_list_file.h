@@ -6,11 +6,11 @@
 // every line as a record without looking at it: its first and last characters are dropped,
 // whatever they are. The list line itself reads name, weekday, month, date and year, and the
 // way back to the calendar takes it apart again by its separators.
-#include <fstream>
 #include <functional>
 #include <string>
 #include <string_view>
 
+#include "core/plain_file.h"
 #include "holidays/holiday_list.h"
 #include "holidays/holiday_rules.h"
 
@@ -39,23 +39,23 @@ class Holiday_List_Writer {
   // opened either.
   explicit Holiday_List_Writer(const std::string& path);
 
-  bool Is_Open() const { return out_.is_open(); }
+  bool Is_Open() const { return out_.Is_Open(); }
   void Write_Record(std::string_view line);
   void Close();
 
  private:
-  std::ofstream out_;
+  PlainFile out_;
 };
 
 // Reads a list file a line at a time to its end and hands each line on with its first and last
 // characters cut away. A line ends at CR LF, CR or LF. At least one line is read before the
 // first end-of-file test, so an empty file fails with "Input past end of file" (62); a missing
-// file fails with 53, a folder with 75, and a line of fewer than two characters with 5, as the
-// cut fails; the lines handed on before a failure stay handed on.
+// file fails with 53, a folder, a pipe or a device with 75, and a line of fewer than two
+// characters with 5, as the cut fails; the lines handed on before a failure stay handed on.
 void Read_Holiday_List_File(const std::string& path, const std::function<void(std::string)>& add_line);
 // The same reading into the end of `list`, in one read into the list's own buffer, the lines
 // cut there in place; the lines read before a failure stay in the list. A file of more than
-// 4 GB is more than a list keeps, and fails with an overflow (6) before it is read.
+// 4 GB is more than a list keeps, and fails with an overflow (6).
 void Read_Holiday_List_File(const std::string& path, Holiday_List& list);
 
 // Month, date and year of a list line, as texts: "April", "20", "2003" from the line for Easter

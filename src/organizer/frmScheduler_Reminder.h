@@ -24,6 +24,7 @@
 
 #include "core/value.h"
 #include "organizer/chart_geometry.h"
+#include "organizer/task_chart.h"
 #include "platform/MenuTree.h"
 
 namespace orrivane {
@@ -128,6 +129,20 @@ class frmScheduler_Reminder : public QMainWindow {
   void Form_Activate();
 
   std::array<Value, organizer::kScreenChartCells> chart_owners_{};  // Chart_History_List_Content_Tracker
+
+  // ---- The chart's own steps (frmScheduler_ReminderChart.cpp) -------------------------------
+  // The moment the origin asks to show, with what the origin does to the step buttons; nothing
+  // for an origin that shows no view here and for a step refused at the end of the years.
+  std::optional<organizer::DateAndTime> Moment_To_Show(std::string_view Calling_Procedure);
+  std::optional<organizer::DateAndTime> Step_Moment(organizer::PeriodStep step);
+  void Enable_Step(organizer::PeriodStep step, bool enabled);
+  // Adds to lstListOfPeople every member of the log it lacks.
+  void Rebuild_Member_List(const std::vector<std::string>& members);
+  // Sets the scroll bar for the members and answers the first row member, pulled back if need be.
+  int Set_Chart_Scroll_Bar(int first_row_member);
+  void Clear_Chart(const organizer::ChartView& view);
+  void Fill_Rows(int first_row_member);
+  void Paint_Tasks(const organizer::ChartView& view, std::span<const organizer::ScheduleRecord> tasks);
 };
 
 }  // namespace orrivane

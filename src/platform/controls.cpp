@@ -9,6 +9,7 @@ namespace orrivane::controls {
 QColor To_QColor(unsigned colour) {
   const QPalette palette = QApplication::palette();
   switch (colour) {
+    case colours::kActiveTitleText: return palette.color(QPalette::Active, QPalette::HighlightedText);
     case kButtonFace: return palette.color(QPalette::Button);
     case kGrayText: return palette.color(QPalette::Disabled, QPalette::WindowText);
     case kButtonText: return palette.color(QPalette::ButtonText);
@@ -43,6 +44,16 @@ void Set_Fore_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::
 void Set_Back_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::Window, "BackColor", colour); }
 unsigned Fore_Color(const QWidget* widget) { return Read(widget, "ForeColor", kButtonText); }
 unsigned Back_Color(const QWidget* widget) { return Read(widget, "BackColor", kButtonFace); }
+
+QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable) {
+  auto* combo = Make<QComboBox>(parent, name);
+  combo->setEditable(editable);
+  if (editable) {
+    combo->setCompleter(nullptr);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+  }
+  return combo;
+}
 
 void Show_In_Front(QWidget& window) {
   window.show();

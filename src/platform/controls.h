@@ -37,6 +37,10 @@ inline QPushButton* Make_Button(QWidget* parent, const QString& name, const QStr
   return Make<QPushButton>(parent, name, caption);
 }
 
+// A combo box. An editable one takes what is typed, as typed: nothing is completed inline and
+// nothing typed is added to its list ("5" typed as a century stays "5").
+QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable);
+
 // Twips (15 to a pixel) to pixels.
 constexpr int Px(int twips) { return twips / 15; }
 

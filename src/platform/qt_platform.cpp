@@ -1,5 +1,7 @@
 #include "platform/qt_platform.h"
 
+#include "platform/WindowKeys.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QMessageBox>
@@ -153,7 +155,7 @@ void QtPlatform::Yield() { QCoreApplication::processEvents(); }
 
 void QtPlatform::End_Process(int exit_code) { std::exit(exit_code); }
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv) {}
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) { Install_Window_Keys(*this); }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/controls.h"
 #include "platform/window_registry.h"
 #include "shell/frmLiscense.h"
 
@@ -117,10 +118,7 @@ void frmAbout::CopyFair(const std::string& Direction) {
 void frmAbout::Form_Activate() { CopyFair("reset"); }
 
 void frmAbout::CmdViewGPLLiscense_Click() {
-  frmLiscense& licence = Window<frmLiscense>();
-  licence.show();
-  licence.raise();
-  licence.activateWindow();
+  controls::Show_In_Front(Window<frmLiscense>());
 }
 
 void frmAbout::paintEvent(QPaintEvent*) {

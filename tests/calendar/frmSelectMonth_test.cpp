@@ -171,6 +171,13 @@ TEST_F(frmSelectMonthTest, AYearThatIsNoNumberIsRefusedWithStatus5) {
   Expect_Refused("Invalid Year Entry", "The year must contain only numbers.");
 }
 
+TEST_F(frmSelectMonthTest, AYearWithAFractionIsNoNumberEither) {
+  Enter("September", "1582.5");
+  Expect_Refused("Invalid Year Entry", "The year must contain only numbers.");
+  Enter("January", "1581.5", "optJulian");
+  Expect_Refused("Invalid Year Entry", "The year must contain only numbers.");
+}
+
 TEST_F(frmSelectMonthTest, NoMonthAndNoYearGiveTheGeneralMessageOfStatus6) {
   Expect_Refused("Error", "Please select a month and enter a valid year in the year field.");
 }

@@ -33,6 +33,15 @@ TEST(SelectMonthCheck, GivesTheStatusOfEachFaultAndSixForSeveral) {
       {"March", "abc", "Gregorian", kYearNotANumber},
       {"March", "1e999", "Gregorian", kYearNotANumber},  // too large to hold
       {"March", " 2000 ", "Gregorian", kSelectMonthAccepted},
+      // A year is counted in whole years: a fraction is no year, whatever its whole part.
+      {"September", "1582.5", "Gregorian", kYearNotANumber},
+      {"January", "1581.5", "Julian", kYearNotANumber},
+      {"March", "2000.0", "Gregorian", kSelectMonthAccepted},
+      {"March", "2e3", "Gregorian", kSelectMonthAccepted},
+      {"March", "2.0005e3", "Gregorian", kYearNotANumber},
+      {"March", "-0.5", "Julian", kYearNotANumber},
+      {"March", "1000000.5", "Julian", kYearNotANumber},
+      {"", "1582.5", "Gregorian", kSeveralEntryErrors},
       {"", "", "Gregorian", kSeveralEntryErrors},
       {"", "abc", "Julian", kSeveralEntryErrors},
       {"", "1000001", "Gregorian", kSeveralEntryErrors},

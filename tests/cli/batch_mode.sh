@@ -76,7 +76,7 @@ weekday \"January 1 2000
 weekday January 1 2000\\
 batch
 calc Divide 1 0
-weekday January 1 2000" "error: Invalid Date Entry: Please enter a value from 1 to 31.
+weekday January 1 2000" "error: Invalid Date: January does not have 32 days in it!
 
 error: Unknown Command: \"frob\" is no command; orrivane-cal --help lists the commands.
 
@@ -91,6 +91,41 @@ error: Usage: batch does not run inside batch.
 error: Run-time error '11': Division by zero
 
 Saturday
+"
+
+# Month texts that the batch remembers in one place take it over from each other; each keeps
+# its own answer.
+feeds "weekday Jan 1 2000
+weekday Jun 1 2000
+weekday Jan 1 2000
+weekday Dec 1 2000
+weekday 13 1 2000
+weekday Dec 1 2000
+weekday 0 1 2000
+weekday x 1 2000
+weekday 0 1 2000
+weekday August 1 2000
+weekday Feb 1 2000" "Saturday
+
+Thursday
+
+Saturday
+
+Friday
+
+Saturday
+
+Friday
+
+Friday
+
+error: Invalid Month Entry: \"x\" is no month's number or name.
+
+Friday
+
+Tuesday
+
+Tuesday
 "
 
 # Help and version answer inside a batch too.

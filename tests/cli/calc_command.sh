@@ -39,8 +39,23 @@ refuses "$subscript" calc Multiply "$(digits 9 51)" "$(digits 9 50)"
 refuses "$division_by_zero" calc Divide 5 0
 refuses "$division_by_zero" calc Remainder 5 000
 refuses "$division_by_zero" calc Divide "$(digits 9 100)" 0
+# Division works with the divisor times up to 10^16, which must stay within 100 digits too: a
+# divisor of 84 digits divides, one of 85 does not, whatever the dividend.
+for op in Divide Remainder; do
+  refuses "$subscript" calc "$op" 1 "$(digits 9 85)"
+  refuses "$subscript" calc "$op" "$(digits 9 99)" "1$(digits 0 84)"
+done
+answers 0 calc Divide 1 "$(digits 9 84)"
+answers 1 calc Remainder 1 "$(digits 9 84)"
+answers 10 calc Divide "$(digits 9 85)" "$(digits 9 84)"
+answers 9 calc Remainder "$(digits 9 85)" "$(digits 9 84)"
+# A dividend at the top of the hundred digits carries past them on the way.
+refuses "$subscript" calc Divide "$(digits 9 100)" 7
+answers "$(digits 1 99)" calc Divide "$(digits 9 99)" 9
+
 refuses 'error: Unknown Operation: "Divide -integer" is none of Add, Subtract, Multiply, Compare, Divide, Remainder.' calc "Divide -integer" 7 2
 refuses 'error: Unknown Operation: "add" is none of Add, Subtract, Multiply, Compare, Divide, Remainder.' calc add 1 1
+refuses 'error: Unknown Operation: "Add\r" is none of Add, Subtract, Multiply, Compare, Divide, Remainder.' calc $'Add\r' 1 1
 refuses 'error: Usage: orrivane-cal calc OPERATION A B' calc Add 1
 
 finish

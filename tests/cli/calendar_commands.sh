@@ -45,7 +45,22 @@ answers Monday weekday November 1 1582
 for year in 1000001 -1 abc 2000.0 +2000 "" " 2000" 99999999999999999999999; do
   refuses "$invalid_year" weekday January 1 "$year"
 done
-for date in 0 32 00 -1 x 1.0 "" 99999999999999999999999; do refuses "$invalid_date" weekday January "$date" 2000; done
+for date in 0 00 -1 x 1.0 "" +1 " 1" 1e1; do refuses "$invalid_date" weekday January "$date" 2000; done
+
+# A day above 31 is Calendarr's to refuse, with its codes in their order: 1 before 3. However
+# long the day, the answer comes at once and tells the day as written.
+refuses 'error: Invalid Date: October does not have 32 days in it!' weekday 10 32 1582
+refuses "$gregorian_start" weekday Feb 32 6
+refuses "$gregorian_start" weekday September 40 1582
+refuses "$gregorian_start" weekday October 99999999999999999999999 1581
+refuses 'error: Invalid Date: February does not have 32 days in it!' weekday --julian Feb 32 6
+refuses 'error: Invalid Date: January does not have 32 days in it!' weekday January 0032 2000
+refuses 'error: Invalid Date: December does not have 1000000000000000 days in it!' weekday December 1000000000000000 2000
+refuses 'error: Invalid Date: December does not have 1000000000000001 days in it!' weekday December 1000000000000001 2000
+refuses 'error: Invalid Date: April does not have 99999999999999999999999 days in it!' weekday April 99999999999999999999999 2000
+refuses 'error: Invalid Date: April does not have 100000000000000000000000000000000000000000000000000 days in it!' \
+  weekday April 0100000000000000000000000000000000000000000000000000 1000000
+answers Monday weekday January 031 2000
 
 # ---- month -----------------------------------------------------------------------------------
 
@@ -115,6 +130,11 @@ refuses 'error: Invalid Month Selection: For the Gregorian Calendar, please make
 refuses 'error: Invalid Month Selection: For the Gregorian Calendar, please make sure the month selected is October 1582 or later.' month March -5
 refuses 'error: Invalid Month Selection: For the Gregorian Calendar, please make sure the month selected is October 1582 or later.' month January 0
 refuses 'error: Invalid Year Entry: The year must contain only numbers.' month March abc
+# A year is counted in whole years: one with a fraction is no number of years.
+refuses 'error: Invalid Year Entry: The year must contain only numbers.' month September 1582.5
+refuses 'error: Invalid Year Entry: The year must contain only numbers.' month --julian January 1581.5
+refuses 'error: Invalid Year Entry: The year must contain only numbers.' month March 2.0005e3
+refuses 'error: Error: Please select a month and enter a valid year in the year field.' month "" 1582.5
 refuses 'error: Error: Please select a month and enter a valid year in the year field.' month "" ""
 refuses 'error: Error: Please select a month and enter a valid year in the year field.' month "" abc
 refuses 'error: Invalid Month Entry: "Marchh" is no month'"'"'s number or name.' month Marchh 2000
@@ -143,5 +163,8 @@ refuses 'error: Invalid Date: February of 2001 only has 28 days in it.' convert 
 refuses 'error: Invalid Date: April does not have 31 days in it!' convert --julian April 31 2001
 refuses "$invalid_year" convert January 1 1000001
 refuses "$invalid_date" convert January 0 2000
+refuses 'error: Invalid Date: October does not have 32 days in it!' convert 10 32 1582
+refuses "$gregorian_start" convert Feb 32 6
+refuses 'error: Invalid Date: February does not have 99999999999999999999999 days in it!' convert --julian Feb 99999999999999999999999 1900
 
 finish

@@ -3,7 +3,7 @@
 #
 #   answers EXPECTED_OUTPUT ARGS...   status 0, the output (each line ended by a line feed), no error
 #   refuses ERROR_LINE ARGS...        status 1, nothing on standard output, the one error line
-#   expect STATUS OUTPUT ERROR ARGS...
+#   expect STATUS OUTPUT ERROR ARGS...   (output_to=full or closed: no output to compare)
 #   feeds INPUT EXPECTED_OUTPUT       "batch" with INPUT on standard input, status 0, no error
 #   finish                            the script's verdict
 # An empty expected text means no bytes at all.
@@ -29,16 +29,22 @@ compare() {
   fi
 }
 
+# Standard output goes to a file to compare, or with output_to=full to /dev/full, or with
+# output_to=closed nowhere: it is closed.
 run_tool() {
   local status=0
-  "$@" > "$scratch/out" 2> "$scratch/err" < "${input_file:-/dev/null}" || status=$?
+  case "${output_to:-}" in
+    full) "$@" > /dev/full 2> "$scratch/err" < "${input_file:-/dev/null}" || status=$? ;;
+    closed) "$@" >&- 2> "$scratch/err" < "${input_file:-/dev/null}" || status=$? ;;
+    *) "$@" > "$scratch/out" 2> "$scratch/err" < "${input_file:-/dev/null}" || status=$? ;;
+  esac
   echo "$status"
 }
 
 expect() {
   local status="$1" output="$2" error="$3"
   shift 3
-  local label="orrivane-cal $*"
+  local label="orrivane-cal $*${output_to:+ to a $output_to output}"
   local actual_status
   actual_status="$(run_tool "$tool" "$@")"
   checks=$((checks + 1))
@@ -47,7 +53,7 @@ expect() {
     echo "FAIL: $label: exit status $actual_status, expected $status" >&2
     ok=1
   fi
-  compare "standard output" "$output" "$scratch/out" "$label" || ok=1
+  if [[ -z "${output_to:-}" ]]; then compare "standard output" "$output" "$scratch/out" "$label" || ok=1; fi
   compare "standard error" "$error" "$scratch/err" "$label" || ok=1
   if ((ok != 0)); then failures=$((failures + 1)); fi
   return 0

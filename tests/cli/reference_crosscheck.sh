@@ -125,6 +125,11 @@ def random_year():
     return rng.randint(0, 3000)
 
 
+def random_long_day():
+    """A day no month has: just past the longest month, far past it, or past any fixed width."""
+    return rng.choice([32, rng.randint(32, 10**6), rng.randint(10**15, 10**30)])
+
+
 def month_form(m):
     return rng.choice([MONTHS[m - 1], MONTHS[m - 1][:3], str(m), f"{m:02d}"])
 
@@ -135,7 +140,7 @@ with open(queries_path, "w") as queries, open(expected_path, "w") as expected:
         julian = rng.random() < 0.5
         y = min(max(random_year(), 0), 1000000)
         m = rng.randint(1, 12)
-        d = rng.randint(1, 31)
+        d = rng.randint(1, 31) if rng.random() < 0.9 else random_long_day()
         command = rng.choice(["weekday", "convert"])
         answer = (weekday_answer if command == "weekday" else convert_answer)(y, m, d, julian)
         if answer is None:

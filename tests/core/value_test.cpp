@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -85,6 +86,19 @@ TEST(ParseNumber, TellsNumbersFromOtherTexts) {
   EXPECT_FALSE(Is_Numeric(""));
   EXPECT_FALSE(Is_Numeric("March"));
   EXPECT_TRUE(Is_Numeric("1e400"));  // a number, only too large to hold
+}
+
+TEST(ParseNumber, WholeNumbersAreExactWithTheirSignAndBlanks) {
+  EXPECT_EQ(Parse_Number("05"), 5.0);
+  EXPECT_EQ(Parse_Number(" -1 "), -1.0);
+  EXPECT_EQ(Parse_Number("+16711680"), 16711680.0);
+  EXPECT_EQ(Parse_Number("999999999999999"), 999999999999999.0);
+  EXPECT_EQ(Parse_Number("9007199254740993"), 9007199254740992.0);  // 16 digits: the nearest double
+  const std::optional<double> minus_zero = Parse_Number("-0");
+  ASSERT_TRUE(minus_zero.has_value());
+  EXPECT_TRUE(std::signbit(*minus_zero));
+  EXPECT_EQ(Parse_Number("-"), std::nullopt);
+  EXPECT_EQ(Parse_Number("1 2"), std::nullopt);
 }
 
 // ---- Whole numbers --------------------------------------------------------------------------

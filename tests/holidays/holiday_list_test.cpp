@@ -19,15 +19,11 @@ std::vector<std::string> Lines_Of(const Holiday_List& list) {
 }
 
 Holiday_List_Texts Texts_Of(const std::vector<std::string>& lines) {
-  std::string all;
   Holiday_List_Texts texts;
   for (const std::string& line : lines) {
-    all += line;
-    texts.ends.push_back(static_cast<std::uint32_t>(all.size()));
+    texts.text += line;
+    texts.ends.push_back(static_cast<std::uint32_t>(texts.text.size()));
   }
-  texts.size = all.size();
-  texts.bytes = std::make_unique<char[]>(all.size());
-  all.copy(texts.bytes.get(), all.size());
   return texts;
 }
 

@@ -562,9 +562,13 @@ TEST_F(LogFilesTest, OpeningALogReplacesTheWorkingCopyAndKeepsItsFile) {
   EXPECT_EQ(organizer().Save_File_Prompt_Flag, 0);
   EXPECT_EQ(Stored_File_Name(), "week.sdl");
   EXPECT_EQ(Stored_Folder(), Folder_As_Stored());
-  EXPECT_EQ(organizer().lstListOfPeople->count(), 0);
+  // The old members went; the refresh lists the members of the log opened.
+  ASSERT_EQ(organizer().lstListOfPeople->count(), 2);
+  EXPECT_EQ(organizer().lstListOfPeople->item(0)->text().toStdString(), "Anna");
+  EXPECT_EQ(organizer().lstListOfPeople->item(1)->text().toStdString(), "Ben");
   EXPECT_EQ(organizer().lstScheduleList->count(), 0);
   EXPECT_EQ(large().cboShowTaskListFor->count(), 0);
+  EXPECT_EQ(controls::Caption(organizer().lblFileName), "week.sdl");
   EXPECT_EQ(Save_Log_States(), (std::vector<bool>{true, true, true}));
   EXPECT_EQ(Read_File("week.sdl"), kDentistBytes + kBenMarker28Lines);
 }
