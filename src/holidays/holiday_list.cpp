@@ -78,6 +78,12 @@ void Holiday_List::Remove(std::size_t row) {
 }
 
 void Holiday_List::Clear() {
+  // Taken out and dropped, so that their memory goes back at once: a string assigned an empty
+  // one would keep its buffer.
+  {
+    const std::vector<std::uint32_t> gone_rows = std::move(rows_);
+    const Holiday_List_Texts gone_texts = std::move(texts_);
+  }
   rows_ = {};
   texts_ = {};
 }
