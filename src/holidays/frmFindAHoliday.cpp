@@ -84,13 +84,17 @@ void Set_Text_Box_Color(QLineEdit* box, unsigned colour) {
 
 // ---- The feed of lines ------------------------------------------------------------------------
 
-HolidayListFeed::HolidayListFeed(frmFindAHoliday& window) : window_(window) { batch_.reserve(1024); }
+BusyCursor::BusyCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+
+BusyCursor::~BusyCursor() { QApplication::restoreOverrideCursor(); }
+
+HolidayListFeed::HolidayListFeed(frmFindAHoliday& window) : window_(window) {}
 
 HolidayListFeed::~HolidayListFeed() { Stop_Yielding(); }
 
-void HolidayListFeed::Add_List_Line(std::string line) {
-  batch_.push_back(std::move(line));
-  if (batch_.size() < kLinesPerBatch) return;
+void HolidayListFeed::Add_List_Entry(int holiday, int year) {
+  window_.lstListHolidayDates_Lines->Append_Entry(holiday, year);
+  if (++unshown_ < kLinesPerBatch) return;
   Flush();
   if (!yielded_) {
     // A long request: the window takes no other order, and the list shows the lines that
@@ -115,9 +119,9 @@ void HolidayListFeed::Stop_Yielding() {
 }
 
 void HolidayListFeed::Flush() {
-  if (batch_.empty()) return;
-  window_.lstListHolidayDates_Lines->Append(batch_);
-  batch_.clear();
+  if (unshown_ == 0) return;
+  unshown_ = 0;
+  window_.lstListHolidayDates_Lines->Show_Appended();
   controls::Set_Caption(window_.lblTotalResultsListed, std::to_string(window_.List_Count()));
 }
 
@@ -171,6 +175,9 @@ void frmFindAHoliday::Build_Controls() {
   lstListHolidayDates->setModel(lstListHolidayDates_Lines);
   // Every line is one row of text: the view need not measure millions of them.
   lstListHolidayDates->setUniformItemSizes(true);
+  // A line longer than the list is wide is cut where the list ends, as the lines of the rules
+  // all fit: a line of a file may be megabytes long, and nobody scrolls along that.
+  lstListHolidayDates->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstListHolidayDates->setSelectionMode(QAbstractItemView::SingleSelection);
   lstListHolidayDates->setEditTriggers(QAbstractItemView::NoEditTriggers);
   lblNewCaption = Make_Label(body, "lblNewCaption", "New:");
@@ -269,12 +276,15 @@ void frmFindAHoliday::Display_Holiday(std::string_view Calling_Sub) {
   static_cast<void>(Calling_Sub);  // a label only: both ways of asking are answered alike
   const Value from_year = Text_Of(txtFromYear);
   const Value to_year = Text_Of(txtToYear);
+  // What was added is what the user wants to see.
+  const std::size_t first_new = List_Count();
   if (optByHoliday->isChecked()) {
     Value last_year = to_year;
     Display_Holiday_II(cboHoliday->currentText().toStdString(), from_year, last_year, holidays::kFindAHolidayCaller);
   } else if (optDisplayAllByYear->isChecked()) {
     Display_All_By_Year(from_year, to_year);
   }
+  Show_Line_At_Top(first_new);
 }
 
 void frmFindAHoliday::Display_Holiday_II(const std::string& HolidaySelection, const Value& FromYear, Value& ToYear,
@@ -304,6 +314,8 @@ void frmFindAHoliday::Display_All_By_Year(const Value& FromYear, const Value& To
     return;
   }
   InterFunction_Counter("Set Equal To", 0);
+  lstListHolidayDates_Lines->Reserve(
+      static_cast<std::size_t>(holidays::All_Holidays_Line_Count(years.from, years.to)));
   std::int64_t added = 0;
   {
     HolidayListFeed feed(*this);
@@ -334,6 +346,20 @@ void frmFindAHoliday::Set_List_Index(int index) {
 void frmFindAHoliday::Empty_List() {
   lstListHolidayDates->selectionModel()->clear();
   lstListHolidayDates_Lines->Clear();
+}
+
+void frmFindAHoliday::Read_List_File(const std::string& path) {
+  {
+    const BusyCursor busy;
+    lstListHolidayDates_Lines->Append_File(path);
+  }
+  lstListHolidayDates->scrollToTop();
+}
+
+void frmFindAHoliday::Show_Line_At_Top(std::size_t row) {
+  if (row >= static_cast<std::size_t>(lstListHolidayDates_Lines->rowCount())) return;
+  lstListHolidayDates->scrollTo(lstListHolidayDates_Lines->index(static_cast<int>(row)),
+                                QAbstractItemView::PositionAtTop);
 }
 
 void frmFindAHoliday::Show_List_Counts(std::int64_t added) {
@@ -465,7 +491,7 @@ void frmFindAHoliday::Print_Holiday_List() {
     for (; index < count; ++index) {
       const holidays::Print_Place place = holidays::Holiday_List_Print_Place(index);
       if (place.job != job) break;
-      const std::string_view line = lstListHolidayDates_Lines->Line(index);
+      const std::string line = List_Line(index);
       page.push_back({place.x_twips, place.y_twips,
                       QString::fromLatin1(line.data(), static_cast<qsizetype>(line.size())).toStdString()});
     }

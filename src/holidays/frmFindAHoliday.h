@@ -73,12 +73,15 @@ class frmFindAHoliday : public QMainWindow {
   void Activate_Save_File_Window();
 
   std::size_t List_Count() const { return lstListHolidayDates_Lines->Count(); }
-  std::string List_Line(std::size_t index) const { return std::string(lstListHolidayDates_Lines->Line(index)); }
+  std::string List_Line(std::size_t index) const { return lstListHolidayDates_Lines->Line(index); }
   // The selected line, or -1.
   int List_Index() const;
   void Set_List_Index(int index);
   // Empties the list and nothing else.
   void Empty_List();
+  // Reads a list file to the end of the list, under the busy cursor, and shows the list from
+  // its top. A file that fails stops with its run-time failure, the lines before it listed.
+  void Read_List_File(const std::string& path);
   // Sets lblNew to `added` and lblTotalResultsListed to the lines in the list.
   void Show_List_Counts(std::int64_t added);
   // Enables what a list with lines allows: saving, clearing, printing.
@@ -113,6 +116,8 @@ class frmFindAHoliday : public QMainWindow {
   void Connect_Controls();
   void Place_Controls();
   void Display_All_By_Year(const Value& FromYear, const Value& ToYear);
+  // Scrolls the list so that the line at `row` is its first in view, when there is such a line.
+  void Show_Line_At_Top(std::size_t row);
   // Enables or disables buttons and menu entries by name.
   void Enable_Commands(std::span<const char* const> names, bool enabled);
   void Print_Holiday_List();
@@ -124,10 +129,21 @@ class frmFindAHoliday : public QMainWindow {
   bool busy_ = false;
 };
 
-// Lines on their way into the list of frmFindAHoliday: appended a batch at a time, and between
-// batches of a long request the window system gets its turn, so that the windows keep painting
-// while millions of lines arrive; the count of lines grows as they come, the list shows them at
-// the end. Finish appends what is left.
+// The busy cursor over all the program's windows for as long as it lives, whichever way the
+// work under it ends.
+class BusyCursor {
+ public:
+  BusyCursor();
+  ~BusyCursor();
+  BusyCursor(const BusyCursor&) = delete;
+  BusyCursor& operator=(const BusyCursor&) = delete;
+};
+
+// Lines on their way into the list of frmFindAHoliday, kept as their holiday and year: shown a
+// batch at a time, and between batches of a long request the window system gets its turn, so
+// that the windows keep painting while millions of lines arrive; the count of lines grows as
+// they come, the list shows them at the end. Finish shows what is left. The busy cursor shows
+// while the feed lives.
 class HolidayListFeed : public holidays::Holiday_Receiver {
  public:
   explicit HolidayListFeed(frmFindAHoliday& window);
@@ -135,15 +151,16 @@ class HolidayListFeed : public holidays::Holiday_Receiver {
   HolidayListFeed(const HolidayListFeed&) = delete;
   HolidayListFeed& operator=(const HolidayListFeed&) = delete;
 
-  void Add_List_Line(std::string line) override;
+  void Add_List_Entry(int holiday, int year) override;
   void Finish();
 
  private:
   void Flush();
   void Stop_Yielding();
 
+  BusyCursor busy_cursor_;
   frmFindAHoliday& window_;
-  std::vector<std::string> batch_;
+  std::size_t unshown_ = 0;  // lines appended since the last batch was shown
   bool yielded_ = false;
 };
 

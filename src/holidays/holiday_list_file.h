@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "core/plain_file.h"
+#include "holidays/holiday_list.h"
 #include "holidays/holiday_rules.h"
 
 namespace orrivane::holidays {
@@ -52,6 +53,10 @@ class Holiday_List_Writer {
 // file fails with 53, a folder, a pipe or a device with 75, and a line of fewer than two
 // characters with 5, as the cut fails; the lines handed on before a failure stay handed on.
 void Read_Holiday_List_File(const std::string& path, const std::function<void(std::string)>& add_line);
+// The same reading into the end of `list`, in one read into the list's own buffer, the lines
+// cut there in place; the lines read before a failure stay in the list. A file of more than
+// 4 GB is more than a list keeps, and fails with an overflow (6).
+void Read_Holiday_List_File(const std::string& path, Holiday_List& list);
 
 // Month, date and year of a list line, as texts: "April", "20", "2003" from the line for Easter
 // of 2003. The name is cut away first: "Election Day, U.S." by its length, since it holds a

@@ -1,5 +1,6 @@
 #include "holidays/holiday_rules.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -332,15 +333,18 @@ Customer Customer_Of(std::string_view Calling_Sub_Origin) {
   return Customer::Nobody;
 }
 
+int Number_Of(const Holiday_Rule& rule) { return static_cast<int>(&rule - kHolidays.data()); }
+
 void Deliver(Customer customer, const Holiday_Rule& rule, const Year_Facts& facts, Holiday_Receiver& receiver) {
   if (customer == Customer::Nobody) return;
-  const Holiday_Date when = Work_Out(rule, facts);
   if (customer == Customer::Find_A_Holiday_List) {
-    receiver.Add_List_Line(List_Line(rule.name, when, facts.year));
-  } else {
-    const std::string_view month = Calendar_Words().month_name[static_cast<std::size_t>(Month_In_Year(when.month))];
-    receiver.Add_Table_Entry({rule.name, month, when.date});
+    // The receiver works the line out if it wants it now.
+    receiver.Add_List_Entry(Number_Of(rule), facts.year);
+    return;
   }
+  const Holiday_Date when = Work_Out(rule, facts);
+  const std::string_view month = Calendar_Words().month_name[static_cast<std::size_t>(Month_In_Year(when.month))];
+  receiver.Add_Table_Entry({rule.name, month, when.date});
 }
 
 // Years from `from` to `to`, backward when `from` is the greater; both already checked.
@@ -433,6 +437,13 @@ std::optional<Holiday_Date> Holiday_Date_In_Year(int holiday, std::int64_t year)
 std::string Holiday_List_Line(int holiday, std::int64_t year, const Holiday_Date& when) {
   return List_Line(Holiday_Name(holiday), when, year);
 }
+
+std::string Holiday_List_Line(int holiday, std::int64_t year) {
+  const std::optional<Holiday_Date> when = Holiday_Date_In_Year(holiday, year);
+  return when ? Holiday_List_Line(holiday, year, *when) : std::string();
+}
+
+void Holiday_Receiver::Add_List_Entry(int holiday, int year) { Add_List_Line(Holiday_List_Line(holiday, year)); }
 
 namespace {
 
@@ -528,6 +539,17 @@ std::int64_t Display_All_Holidays_For_Years(int from, int to, Holiday_Receiver& 
     if (year == last) break;
   }
   return delivered;
+}
+
+std::int64_t All_Holidays_Line_Count(int from, int to) {
+  const int lowest = std::min(from, to);
+  const int highest = std::min(std::max(from, to), kHolidayYearLimit);
+  std::int64_t lines = 0;
+  for (const Holiday_Rule& rule : kHolidays) {
+    const int first = std::max(lowest, rule.first_year);
+    if (first <= highest) lines += highest - first + 1;
+  }
+  return lines;
 }
 
 // ---- The holiday table keeper ---------------------------------------------------------------

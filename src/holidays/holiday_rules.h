@@ -89,6 +89,9 @@ std::optional<Holiday_Date> Holiday_Date_In_Year(int holiday, std::int64_t year)
 
 // The list line: "Easter, Sunday, April 20, 2003", "Election Day, U.S., Tuesday, November 4, 2003".
 std::string Holiday_List_Line(int holiday, std::int64_t year, const Holiday_Date& when);
+// The list line of a holiday in a year, worked out; the empty text when the holiday does not
+// exist that year. A line is a pure function of the two, so a list may keep them in its place.
+std::string Holiday_List_Line(int holiday, std::int64_t year);
 
 // What the calendar's holiday table keeps of one holiday in one year. The texts live as long as
 // the program.
@@ -104,6 +107,10 @@ struct Holiday_Table_Entry {
 class Holiday_Receiver {
  public:
   virtual ~Holiday_Receiver() = default;
+  // For the find-a-holiday window: the line of `holiday` (numbered as Holiday_Name numbers it)
+  // in `year`, for the end of lstListHolidayDates. A receiver that keeps the pair overrides
+  // this; by default the line is worked out and handed to Add_List_Line.
+  virtual void Add_List_Entry(int holiday, int year);
   // For the find-a-holiday window: a line for the end of lstListHolidayDates.
   virtual void Add_List_Line(std::string line) { static_cast<void>(line); }
   // For the calendar: an entry for the first free place of the holiday table.
@@ -184,6 +191,9 @@ All_Holidays_Years Check_Years_For_All_Holidays(const Value& FromYear, const Val
 // list. Answers the holidays delivered, the sum the window shows as new. Years outside 1582 to
 // 100100 deliver nothing.
 std::int64_t Display_All_Holidays_For_Years(int from, int to, Holiday_Receiver& receiver);
+// How many holidays Display_All_Holidays_For_Years(from, to, ...) delivers, without delivering
+// them: a list can be sized once for a request.
+std::int64_t All_Holidays_Line_Count(int from, int to);
 
 // ---- The holiday table keeper ---------------------------------------------------------------
 

@@ -4,7 +4,6 @@
 
 #include "core/sequential_file.h"
 #include "holidays/frmFindAHoliday.h"
-#include "holidays/holiday_list_file.h"
 #include "organizer/frmScheduler_Reminder.h"
 #include "platform/controls.h"
 #include "platform/window_registry.h"
@@ -105,11 +104,7 @@ void frmOpenFile::Open_Holiday_List_File() {
   frmFindAHoliday& find = Window<frmFindAHoliday>();
   // The old list goes before the file is opened, so it is gone even when reading fails.
   find.Empty_List();
-  {
-    HolidayListFeed feed(find);
-    holidays::Read_Holiday_List_File(path, [&feed](std::string line) { feed.Add_List_Line(std::move(line)); });
-    feed.Finish();
-  }
+  find.Read_List_File(path);
   find.Show_List_Counts(0);
   if (find.List_Count() > 0) find.Enable_Filled_List_Commands();
   cmdOpen->setEnabled(false);

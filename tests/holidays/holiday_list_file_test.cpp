@@ -8,6 +8,7 @@
 
 #include "core/runtime_failure.h"
 #include "core/temp_folder.h"
+#include "holidays/holiday_list.h"
 #include "holidays/holiday_list_file.h"
 #include "support/failure_of.h"
 
@@ -150,6 +151,57 @@ TEST(HolidayListFile, ALineTooShortToCutFailsAfterTheLinesBeforeIt) {
   EXPECT_EQ(lines, std::vector<std::string>{"one"});
   Write_Bytes(folder.file("blank.dte"), "\"one\"\r\n\r\n");
   EXPECT_EQ(Failure_Of([&] { Read_All(folder.file("blank.dte")); }), kInvalidProcedureCall);
+}
+
+// ---- Read into a list, in place ------------------------------------------------------------------
+
+std::vector<std::string> Read_Into_A_List(const std::string& path, Holiday_List& list) {
+  Read_Holiday_List_File(path, list);
+  std::vector<std::string> lines;
+  for (std::size_t row = 0; row < list.Count(); ++row) lines.push_back(list.Line(row));
+  return lines;
+}
+
+TEST(HolidayListFile, ReadIntoAListEveryFileGivesTheLinesReadOneByOne) {
+  TempFolder folder;
+  const std::string big = [] {
+    std::string records;
+    for (int i = 0; i < 20000; ++i) records += "\"line " + std::to_string(i) + "\"\r\n";
+    return records;
+  }();
+  for (const std::string& bytes : {std::string("<abc>\r\nxy\r\n'q'\r\n"), std::string("\"one\"\r\n\"two\""),
+                                   std::string("\"one\"\n\"two\"\r\"three\"\r\n"), std::string("\"only\"\r"), std::string("\"\0\"\r\n", 5), big}) {
+    Write_Bytes(folder.file("any.dte"), bytes);
+    Holiday_List list;
+    EXPECT_EQ(Read_Into_A_List(folder.file("any.dte"), list), Read_All(folder.file("any.dte"))) << bytes.substr(0, 40);
+  }
+}
+
+TEST(HolidayListFile, ReadIntoAListTheLinesGoBehindThoseThere) {
+  TempFolder folder;
+  Write_Bytes(folder.file("a.dte"), "\"one\"\r\n\"two\"\r\n");
+  Write_Bytes(folder.file("b.dte"), "\"three\"\r\n");
+  Holiday_List list;
+  Read_Holiday_List_File(folder.file("a.dte"), list);
+  list.Append_Entry(*Holiday_Number("Easter"), 2003);
+  EXPECT_EQ(Read_Into_A_List(folder.file("b.dte"), list),
+            (std::vector<std::string>{"one", "two", "Easter, Sunday, April 20, 2003", "three"}));
+}
+
+TEST(HolidayListFile, ReadIntoAListAFailureKeepsTheLinesBeforeIt) {
+  TempFolder folder;
+  Write_Bytes(folder.file("short.dte"), "\"one\"\r\nx\r\n\"three\"\r\n");
+  Holiday_List list;
+  EXPECT_EQ(Failure_Of([&] { Read_Holiday_List_File(folder.file("short.dte"), list); }), kInvalidProcedureCall);
+  ASSERT_EQ(list.Count(), 1u);
+  EXPECT_EQ(list.Line(0), "one");
+  Write_Bytes(folder.file("empty.dte"), "");
+  Holiday_List empty;
+  EXPECT_EQ(Failure_Of([&] { Read_Holiday_List_File(folder.file("empty.dte"), empty); }), kInputPastEndOfFile);
+  EXPECT_EQ(empty.Count(), 0u);
+  EXPECT_EQ(Failure_Of([&] { Read_Holiday_List_File(folder.file("missing.dte"), empty); }), kFileNotFound);
+  std::filesystem::create_directory(folder.file("folder.dte"));
+  EXPECT_EQ(Failure_Of([&] { Read_Holiday_List_File(folder.file("folder.dte"), empty); }), kPathFileAccessError);
 }
 
 TEST(HolidayListFile, TheDateOfAListLine) {
