@@ -138,6 +138,12 @@ bool Ends_With(std::string_view s, std::string_view tail) {
   return s.size() >= tail.size() && s.substr(s.size() - tail.size()) == tail;
 }
 
+std::string With_Extension(std::string_view name, std::string_view extension) {
+  std::string full(name);
+  if (!Ends_With(name, extension)) full += extension;
+  return full;
+}
+
 bool Starts_With(std::string_view s, std::string_view head) { return s.substr(0, head.size()) == head; }
 
 std::string One_Line(std::string_view s) {

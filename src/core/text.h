@@ -39,6 +39,10 @@ std::string Pad_Zero(long long number, int width);
 bool Ends_With(std::string_view s, std::string_view tail);
 bool Starts_With(std::string_view s, std::string_view head);
 
+// A file name with its extension: `extension` added unless the name already ends in it, compared
+// exactly ("week" and ".sdl" give "week.sdl", "week.SDL" gives "week.SDL.sdl").
+std::string With_Extension(std::string_view name, std::string_view extension);
+
 // Every carriage return or line feed becomes one blank, then runs of blanks become one.
 std::string One_Line(std::string_view s);
 

@@ -97,11 +97,7 @@ Holiday_List_Texts Cut_File(const std::string& path, int& failure) {
 
 }  // namespace
 
-std::string Holiday_List_File_Name(std::string_view name) {
-  std::string full(name);
-  if (text::Right(name, 4) != kHolidayListExtension) full += kHolidayListExtension;
-  return full;
-}
+std::string Holiday_List_File_Name(std::string_view name) { return text::With_Extension(name, kHolidayListExtension); }
 
 std::string Holiday_List_Record(std::string_view line) {
   std::string record;

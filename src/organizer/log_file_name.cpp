@@ -1,5 +1,7 @@
 #include "organizer/log_file_name.h"
 
+#include "core/text.h"
+
 namespace orrivane::organizer {
 
 namespace {
@@ -8,10 +10,7 @@ constexpr char kFolderSeparator = '/';  // the one Join_Path (core/sequential_fi
 
 }  // namespace
 
-std::string Log_File_Name(std::string name) {
-  if (!name.ends_with(kLogFileExtension)) name += kLogFileExtension;
-  return name;
-}
+std::string Log_File_Name(std::string name) { return text::With_Extension(name, kLogFileExtension); }
 
 std::string Log_Folder(std::string folder) {
   if (folder.empty() || folder.back() != kFolderSeparator) folder += kFolderSeparator;

@@ -129,6 +129,13 @@ TEST(Ends_With, ComparesExactly) {
   EXPECT_FALSE(Starts_With("fr", "frm"));
 }
 
+TEST(With_Extension, AddsTheExtensionUnlessTheNameEndsInItExactly) {
+  EXPECT_EQ(With_Extension("week", ".sdl"), "week.sdl");
+  EXPECT_EQ(With_Extension("week.sdl", ".sdl"), "week.sdl");
+  EXPECT_EQ(With_Extension("week.SDL", ".sdl"), "week.SDL.sdl");
+  EXPECT_EQ(With_Extension("", ".dte"), ".dte");
+}
+
 TEST(One_Line, TurnsLineBreaksIntoSingleBlanks) {
   EXPECT_EQ(One_Line("Bring\r\nX-rays"), "Bring X-rays");
   EXPECT_EQ(One_Line("a \r\n\r\n  b"), "a b");
