@@ -69,7 +69,7 @@ const Option_Spec* Find_Option(const Command_Spec& command, std::string_view nam
 // Options are the words that name one of the command's options ("--units ymd" or
 // "--units=ymd"), up to a "--"; every other word is an operand, so that "-5" is a year. The
 // words are the command's name and what follows it; the operands keep their storage.
-Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string> words) {
+Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string>& words) {
   Arguments arguments;
   std::size_t operands = 0;
   bool options_end = false;
@@ -97,15 +97,14 @@ Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string> 
     }
     arguments.options.emplace_back(option->name, std::move(value));
   }
-  words.resize(operands);
-  arguments.operands = std::move(words);
+  arguments.operands = std::span<const std::string>(words.data(), operands);
   if (arguments.operands.size() < command.least_operands || arguments.operands.size() > command.most_operands) {
     Usage_Error(command);
   }
   return arguments;
 }
 
-void Run_Parsed(std::vector<std::string> words, Command_Context& context) {
+void Run_Parsed(std::vector<std::string>& words, Command_Context& context) {
   if (words.empty()) {
     throw Command_Error("Usage", std::string(kProgram) + " COMMAND ...; " + std::string(kHelpHint));
   }
@@ -113,7 +112,7 @@ void Run_Parsed(std::vector<std::string> words, Command_Context& context) {
   if (command == nullptr) {
     throw Command_Error("Unknown Command", Quoted(words.front()) + " is no command; " + std::string(kHelpHint));
   }
-  const Arguments arguments = Parse_Arguments(*command, std::move(words));
+  const Arguments arguments = Parse_Arguments(*command, words);
   command->run(arguments, context);
 }
 
@@ -129,8 +128,12 @@ const std::string* Arguments::Value_Of(std::string_view option) const {
 }
 
 std::optional<std::string> Run_Command(std::vector<std::string> words, Command_Context& context) {
+  return Run_Command_In_Place(words, context);
+}
+
+std::optional<std::string> Run_Command_In_Place(std::vector<std::string>& words, Command_Context& context) {
   try {
-    Run_Parsed(std::move(words), context);
+    Run_Parsed(words, context);
     return std::nullopt;
   } catch (const Command_Error& error) {
     return Error_Line(error.title(), error.text());

@@ -3,6 +3,7 @@
 // a command's words against its row, and the one place where a command's failure becomes its
 // error line.
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,7 +15,7 @@ namespace orrivane::cli {
 
 // The words of a command after its name, sorted into options and operands.
 struct Arguments {
-  std::vector<std::string> operands;
+  std::span<const std::string> operands;  // within the words of the command
   std::vector<std::pair<std::string, std::string>> options;  // "--units", "ymd"; flags have ""
 
   bool Has(std::string_view option) const;
@@ -31,6 +32,9 @@ struct Command_Context {
 // Runs one command, its words without the program's name. The answer goes to the context's
 // output; a failure comes back as its error line ("error: TITLE: TEXT"), nothing is thrown.
 std::optional<std::string> Run_Command(std::vector<std::string> words, Command_Context& context);
+
+// The same on words that the caller keeps (a batch, from line to line); they are reordered.
+std::optional<std::string> Run_Command_In_Place(std::vector<std::string>& words, Command_Context& context);
 
 // ---- The handlers of the table. Each throws Command_Error (or the core's RuntimeFailure). ----
 

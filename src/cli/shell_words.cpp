@@ -60,15 +60,21 @@ bool Read_Word(std::string_view line, std::size_t& at, std::string& word) {
 
 }  // namespace
 
-std::optional<std::vector<std::string>> Split_Shell_Words(std::string_view line) {
-  std::vector<std::string> words;
+bool Split_Shell_Words(std::string_view line, std::vector<std::string>& words) {
+  words.clear();
   words.reserve(kUsualWords);
   std::size_t at = 0;
   for (;;) {
     while (at < line.size() && Is_Separator(line[at])) ++at;
-    if (at >= line.size() || line[at] == '#') return words;
-    if (!Read_Word(line, at, words.emplace_back())) return std::nullopt;
+    if (at >= line.size() || line[at] == '#') return true;
+    if (!Read_Word(line, at, words.emplace_back())) return false;
   }
+}
+
+std::optional<std::vector<std::string>> Split_Shell_Words(std::string_view line) {
+  std::vector<std::string> words;
+  if (!Split_Shell_Words(line, words)) return std::nullopt;
+  return words;
 }
 
 }  // namespace orrivane::cli

@@ -13,4 +13,8 @@ namespace orrivane::cli {
 // The words of the line; nothing when a quotation is left open or the line ends in a backslash.
 std::optional<std::vector<std::string>> Split_Shell_Words(std::string_view line);
 
+// The same into `words`, which is emptied first and keeps its room from line to line; false
+// where the other answers nothing.
+bool Split_Shell_Words(std::string_view line, std::vector<std::string>& words);
+
 }  // namespace orrivane::cli
