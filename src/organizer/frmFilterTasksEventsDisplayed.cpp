@@ -40,14 +40,9 @@ QStringList Three_Letter_Months() {
 // A box that starts empty; an editable one takes what is typed as it stands, with no completion
 // from its list and nothing added to it.
 QComboBox* Make_Box(QWidget* parent, const QString& name, const QStringList& items, bool editable) {
-  auto* box = controls::Make<QComboBox>(parent, name);
+  QComboBox* box = controls::Make_Combo(parent, name, editable);
   box->addItems(items);
   box->setMaxVisibleItems(12);
-  box->setEditable(editable);
-  if (editable) {
-    box->setCompleter(nullptr);
-    box->setInsertPolicy(QComboBox::NoInsert);
-  }
   box->setCurrentIndex(-1);
   return box;
 }

@@ -27,6 +27,8 @@ struct KindTexts {
   const char* method;
   const char* interval;  // nullptr: the interval in words
 };
+// The captions as the window has always shown them, the second with its short form of
+// "Specified".
 constexpr KindTexts kKinds[] = {
     {1, "Only One Reminder", "No Interval In Effect"},
     {2, "Series-From Spec. Time", nullptr},

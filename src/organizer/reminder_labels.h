@@ -24,9 +24,10 @@ struct ReminderLabels {
 std::string Reminder_Interval_Text(const Value& Interval_Days, const Value& Interval_Hours,
                                    const Value& Interval_Minutes);
 
-// The texts for the kind of reminder `Value_` (a Reminder_Interval): 1 "Only One Reminder" with "No Interval
-// In Effect", 2 "Series-From Spec. Time" and 3 "Series-To Specified Time" with the interval in
-// words. Another kind has no texts, and the labels keep theirs.
+// The texts for the kind of reminder `Value_` (a Reminder_Interval): the caption of the kind
+// (one reminder only, a series from the first moment, a series up to the last), with "No
+// Interval In Effect" for the first kind and the interval in words for the two series. Another
+// kind has no texts, and the labels keep theirs.
 std::optional<ReminderLabels> Set_Reminder_Labels(const Value& Value_, const Value& Interval_Days,
                                                   const Value& Interval_Hours, const Value& Interval_Minutes);
 

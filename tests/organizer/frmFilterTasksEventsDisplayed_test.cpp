@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QTest>
 
 #include "organizer/task_window_test.h"
 
@@ -146,6 +147,10 @@ TEST_F(frmFilterTasksEventsDisplayedTest, BothInvalid) {
 
 TEST_F(frmFilterTasksEventsDisplayedTest, ACenturyIsTakenAsTypedWithoutCompletion) {
   QComboBox* century = Box("ComboCentury", 0);
+  // Completion works on a focused box only: the user types into the box that has the focus.
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+  century->setFocus();
+  ASSERT_TRUE(century->lineEdit()->hasFocus());
   Type(century->lineEdit(), "2");
   EXPECT_EQ(century->currentText().toStdString(), "2");
   EXPECT_EQ(century->count(), 84);  // nothing added to the list
