@@ -5,6 +5,7 @@
 
 namespace orrivane::colours {
 
+inline constexpr std::uint32_t kScrollBars = 0x80000000;        // system colour: the face of a scroll bar
 inline constexpr std::uint32_t kWindowBackground = 0x80000005;  // system colour: the face of a text box
 inline constexpr std::uint32_t kActiveTitleText = 0x80000009;  // system colour: the text of an active title bar
 inline constexpr std::uint32_t kButtonFace = 0x8000000F;        // system colour: the face of a button

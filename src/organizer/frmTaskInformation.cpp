@@ -4,6 +4,8 @@
 #include <QMenuBar>
 #include <QRect>
 
+#include "organizer/organizer_callers.h"
+#include "organizer/set_reminder_opening.h"
 #include "organizer/task_list.h"
 #include "platform/controls.h"
 
@@ -18,9 +20,6 @@ using controls::Set_Caption;
 constexpr char kCaptionHead[] = "Task\\Event Information: ";
 constexpr char kOn[] = "ON";
 constexpr char kOff[] = "OFF";
-
-// cmdChange1 opens the reminder window, which is not part of the program yet.
-constexpr bool kReminderWindowBuilt = false;
 
 constexpr MenuEntry kTaskInformationMenu[] = {
     {"", "mnuFile", "&File", ""},
@@ -145,6 +144,7 @@ void frmTaskInformation::Place_Controls() {
 
 void frmTaskInformation::Connect_Controls() {
   connect(cmdClose, &QPushButton::clicked, this, [this] { Close_Record(); });
+  connect(cmdChange1, &QPushButton::clicked, this, [this] { cmdChange1_Click(); });
   menu->On("mnuClose", [this] { Close_Record(); });
 }
 
@@ -193,10 +193,12 @@ void frmTaskInformation::Set_Reminder_Labels(const Value& Value_, const Value& I
 
 void frmTaskInformation::Enable_Reminder_Frame_Labels(bool Value_) {
   for (QWidget* control : {lblMethod, lblMethodLabel, lblInterval, lblIntervalLabel}) control->setEnabled(Value_);
-  cmdChange1->setEnabled(Value_ && kReminderWindowBuilt);
+  cmdChange1->setEnabled(Value_);
 }
 
 void frmTaskInformation::Set_Record_Changed_Flag(bool Flag) { Record_Changed_Flag = Flag; }
+
+void frmTaskInformation::cmdChange1_Click() { organizer::Open_Set_Reminder_Window(organizer::kTaskInformationWindow); }
 
 void frmTaskInformation::Close_Record() {
   // A changed record asks about saving first; that comes with editing a task here, and until

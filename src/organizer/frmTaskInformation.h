@@ -49,7 +49,7 @@ class frmTaskInformation : public QMainWindow {
   QLabel* lblMethod;
   QLabel* lblIntervalLabel;
   QLabel* lblInterval;
-  QPushButton* cmdChange1;  // the reminder window; stays disabled until that window is built
+  QPushButton* cmdChange1;  // sets the reminder in frmSetReminder; enabled while the reminder is on
 
   QPushButton* cmdClose;
   std::unique_ptr<MenuTree> menu;
@@ -65,6 +65,8 @@ class frmTaskInformation : public QMainWindow {
                            const Value& Interval_Minutes);
   void Enable_Reminder_Frame_Labels(bool Value_);
   void Set_Record_Changed_Flag(bool Flag);
+  // Opens frmSetReminder on this window's reminder values, which it then changes.
+  void cmdChange1_Click();
   bool Record_Changed() const { return Record_Changed_Flag; }
   void Close_Record();
 

@@ -43,4 +43,13 @@ inline constexpr std::string_view kReminderWindowMoreDetails = "frmReminderWindo
 inline constexpr std::string_view kMultiPurposeDelete1 = "frmMultiPurposeForm.cmdDelete_1_Click()";
 inline constexpr std::string_view kLblChartHistoryListClick = "lblChartHistoryList_Click(Index As Integer)";
 
+// ---- frmSetReminder: whose reminder it sets (Store_Calling_Form_Origin) ----------------------
+inline constexpr std::string_view kNewTaskWindow = "frmAddNewAppointment_Reminder";
+inline constexpr std::string_view kTaskInformationWindow = "frmTaskInformation";
+
+// ---- Set_Reminder: which button sets the reminder --------------------------------------------
+// OK puts the window away; SET says that the reminder has been set and leaves it standing.
+inline constexpr std::string_view kSetReminderCmdOK = "cmdOK_Click()";
+inline constexpr std::string_view kSetReminderCmdSet = "cmdSet_Click()";
+
 }  // namespace orrivane::organizer

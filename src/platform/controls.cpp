@@ -13,6 +13,9 @@ QColor To_QColor(unsigned colour) {
     case kButtonFace: return palette.color(QPalette::Button);
     case kGrayText: return palette.color(QPalette::Disabled, QPalette::WindowText);
     case kButtonText: return palette.color(QPalette::ButtonText);
+    case colours::kWindowBackground: return palette.color(QPalette::Base);
+    // A shade darker than a button's face, as the trough of a scroll bar stands.
+    case colours::kScrollBars: return palette.color(QPalette::Button).darker(115);
     default: return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
   }
 }
@@ -44,6 +47,8 @@ void Set_Fore_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::
 void Set_Back_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::Window, "BackColor", colour); }
 unsigned Fore_Color(const QWidget* widget) { return Read(widget, "ForeColor", kButtonText); }
 unsigned Back_Color(const QWidget* widget) { return Read(widget, "BackColor", kButtonFace); }
+
+void Set_Box_Color(QWidget* box, unsigned colour) { Apply(box, QPalette::Base, "BackColor", colour); }
 
 QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable) {
   auto* combo = Make<QComboBox>(parent, name);

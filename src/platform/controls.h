@@ -56,6 +56,8 @@ void Set_Fore_Color(QWidget* widget, unsigned colour);
 void Set_Back_Color(QWidget* widget, unsigned colour);
 unsigned Fore_Color(const QWidget* widget);
 unsigned Back_Color(const QWidget* widget);
+// The face of a box one types or chooses in (a text box, a combo box), read back by Back_Color.
+void Set_Box_Color(QWidget* box, unsigned colour);
 
 // What a box holds, as the program reads it.
 inline std::string Text_Of(const QComboBox* box) { return box->currentText().toStdString(); }

@@ -105,6 +105,17 @@ class TaskWindowTest : public WindowTest {
 
   // The user picks a member in the Organizer.
   void Choose_Member(const std::string& member) { Click_Entry(organizer().lstListOfPeople, member); }
+
+  // Shows a task in the task information window the way the user does: the member chosen in the
+  // Organizer, then a double click on the task.
+  void View_Task(const organizer::ScheduleRecord& task) {
+    Write_Log({organizer::Make_Person_Marker(task.Person_Name), task});
+    Open_Organizer();
+    Choose_Member(task.Person_Name.text());
+    Double_Click_Entry(organizer().lstScheduleList, organizer::Task_List_Entry(task));
+    Process_Events();
+    ASSERT_TRUE(information().isVisible());
+  }
 };
 
 }  // namespace orrivane::testing
