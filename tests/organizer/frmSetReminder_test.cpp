@@ -487,6 +487,15 @@ TEST_F(frmSetReminderTest, AnUnknownCallerGetsAndKeepsNothing) {
   EXPECT_EQ(New_Task_Values(), kept);
 }
 
+TEST_F(frmSetReminderTest, AnotherButtonNeitherHidesNorTells) {
+  Open_From_New_Task();
+  Select_Moment(0, "October", "10", "", "", "", "");
+  reminder().Set_Reminder("cmdOk_Click()");
+  EXPECT_TRUE(reminder().isVisible());
+  EXPECT_TRUE(machine().Messages().empty());
+  EXPECT_EQ(New_Task("Date_String(0)"), Value("October 10, 2001"));
+}
+
 TEST_F(frmSetReminderTest, UseTaskTimeOpensTheTaskTimeWindowForItsMoment) {
   Open_From_New_Task();
   Click_Reminder_Option("optIntermittently2");
@@ -498,18 +507,12 @@ TEST_F(frmSetReminderTest, UseTaskTimeOpensTheTaskTimeWindowForItsMoment) {
   EXPECT_EQ(task_time().Store_Calling_Sub_Origin("Get"), Value(0));
 }
 
-// The reminder of the dentist's task as the record keeps it: a series from one day before the
-// task's start to 14:00 on its day, every 2 hours and 30 minutes. The window hands the keeper
-// the kind as a number and the period as the texts of its labels.
+// The window hands the keeper the moments' texts, the kind as a number and the period as the
+// texts of its labels.
 TEST_F(frmSetReminderTest, TheDentistsSeriesInTheKeeper) {
-  Open_From_New_Task();
-  Click_Reminder_Option("optIntermittently1");
-  Choose_Interval(1, "2");
-  Choose_Interval(0, "30");
-  Tie_To_Task(0, "Before", "OptStart", {"0", "0", "1", "0"});
-  Select_Moment(1, "March", "05", "20", "01", "14", "00");
-  Trigger(reminder(), "cmdOK");
+  Set_The_Dentists_Series();
   EXPECT_TRUE(machine().Messages().empty());
+  EXPECT_FALSE(reminder().isVisible());
 
   EXPECT_EQ(New_Task("Date_String(0)"), Value("Before The Start Time of Task"));
   EXPECT_EQ(New_Task("Time_String(0)"), Value("By 1 Days, 0 Hrs, 0 Min"));

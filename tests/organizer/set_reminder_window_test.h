@@ -109,6 +109,18 @@ class SetReminderWindowTest : public TaskWindowTest {
     Trigger(task_time(), "cmdOK");
   }
 
+  // The reminder of the dentist's task (14:30 on March 5, 2001) set for the new task: a series
+  // from one day before the task's start to 14:00 on its day, every 2 hours and 30 minutes.
+  void Set_The_Dentists_Series() {
+    Open_From_New_Task();
+    Click_Option(reminder().optIntermittently1);
+    Choose_Interval(1, "2");
+    Choose_Interval(0, "30");
+    Tie_To_Task(0, "Before", "OptStart", {"0", "0", "1", "0"});
+    Select_Moment(1, "March", "05", "20", "01", "14", "00");
+    Trigger(reminder(), "cmdOK");
+  }
+
   // ---- The callers ----------------------------------------------------------------------------
   // The new-task window's keeper, as its values stand after the window has been refreshed.
   static Value New_Task(const char* name) { return organizer::New_Task_Reminder_Variables(name, "Get", {}); }
