@@ -183,6 +183,38 @@ constexpr int kTimeTextRow = 190;
 constexpr int kTextCaptionWidth = 44;
 constexpr int kTextLeft = 56;
 
+// The boxes of a moment, each with the caption before it (the day's box stands beside the month's
+// and shares its caption), its list (two-digit texts in a range, or the months' names) and its
+// place in the frame.
+struct MomentBox {
+  frmSetReminder::Moments<QLabel> frmSetReminder::* caption;  // nullptr: no caption of its own
+  const char* caption_name;
+  const char* caption_text;
+  int caption_left;
+  int caption_width;
+  frmSetReminder::Moments<QComboBox> frmSetReminder::* box;
+  const char* box_name;
+  const organizer::TwoDigitRange* range;  // nullptr: the months
+  int box_left;
+  int box_width;
+  int top;
+};
+constexpr MomentBox kMomentBoxes[] = {
+    {&frmSetReminder::LblSelectDate, "LblSelectDate", "Month\\Date:", kCaptionLeft, kCaptionWidth,
+     &frmSetReminder::ComboMonths, "ComboMonths", nullptr, kFirstBoxLeft, kMonthBox, kDateRow},
+    {nullptr, nullptr, nullptr, 0, 0, &frmSetReminder::ComboDate, "ComboDate", &organizer::kDateBoxRange,
+     kSecondBoxLeft, kNarrowBox, kDateRow},
+    {&frmSetReminder::LblCentury, "LblCentury", "Century:", kCaptionLeft, kCaptionWidth,
+     &frmSetReminder::ComboCentury, "ComboCentury", &organizer::kReminderCenturyRange, kFirstBoxLeft, kNarrowBox,
+     kYearRow},
+    {&frmSetReminder::LblYear, "LblYear", "Year:", kSecondCaptionLeft, kSecondCaptionWidth,
+     &frmSetReminder::ComboYear, "ComboYear", &organizer::kYearBoxRange, kSecondBoxLeft, kNarrowBox, kYearRow},
+    {&frmSetReminder::lblHour, "lblHour", "Hour:", kCaptionLeft, kCaptionWidth, &frmSetReminder::cboHour, "cboHour",
+     &organizer::kHourBoxRange, kFirstBoxLeft, kNarrowBox, kTimeRow},
+    {&frmSetReminder::lblMin, "lblMin", "Minute:", kSecondCaptionLeft, kSecondCaptionWidth,
+     &frmSetReminder::cboMinute, "cboMinute", &organizer::kMinuteBoxRange, kSecondBoxLeft, kNarrowBox, kTimeRow},
+};
+
 }  // namespace
 
 // ---- The window ----------------------------------------------------------------------------------
@@ -228,24 +260,14 @@ void frmSetReminder::Build_Controls() {
 void frmSetReminder::Build_Moment(int index) {
   const auto name = [index](const char* control) { return Array_Name(control, index); };
   QGroupBox* frame = fraDateTimeSelection[index] = Make_Frame(this, name("fraDateTimeSelection"));
-  LblSelectDate[index] = Make_Label(frame, name("LblSelectDate"), "Month\\Date:");
-  ComboMonths[index] = Make_Combo(frame, name("ComboMonths"), true);
-  Fill(ComboMonths[index], Month_Names());
-  ComboMonths[index]->setMaxVisibleItems(12);
-  ComboDate[index] = Make_Combo(frame, name("ComboDate"), true);
-  Fill(ComboDate[index], organizer::Two_Digit_Texts(organizer::kDateBoxRange));
-  LblCentury[index] = Make_Label(frame, name("LblCentury"), "Century:");
-  ComboCentury[index] = Make_Combo(frame, name("ComboCentury"), true);
-  Fill(ComboCentury[index], organizer::Two_Digit_Texts(organizer::kReminderCenturyRange));
-  LblYear[index] = Make_Label(frame, name("LblYear"), "Year:");
-  ComboYear[index] = Make_Combo(frame, name("ComboYear"), true);
-  Fill(ComboYear[index], organizer::Two_Digit_Texts(organizer::kYearBoxRange));
-  lblHour[index] = Make_Label(frame, name("lblHour"), "Hour:");
-  cboHour[index] = Make_Combo(frame, name("cboHour"), true);
-  Fill(cboHour[index], organizer::Two_Digit_Texts(organizer::kHourBoxRange));
-  lblMin[index] = Make_Label(frame, name("lblMin"), "Minute:");
-  cboMinute[index] = Make_Combo(frame, name("cboMinute"), true);
-  Fill(cboMinute[index], organizer::Two_Digit_Texts(organizer::kMinuteBoxRange));
+  for (const MomentBox& row : kMomentBoxes) {
+    if (row.caption != nullptr) {
+      (this->*row.caption)[index] = Make_Label(frame, name(row.caption_name), row.caption_text);
+    }
+    QComboBox* box = (this->*row.box)[index] = Make_Combo(frame, name(row.box_name), true);
+    Fill(box, row.range != nullptr ? organizer::Two_Digit_Texts(*row.range) : Month_Names());
+    box->setMaxVisibleItems(12);
+  }
   cmdSelect[index] = Make_Button(frame, name("cmdSelect"), "Select");
   cmdUseTaskTime[index] = Make_Button(frame, name("cmdUseTaskTime"), "Use Task Time");
   lblDateLabel[index] = Make_Label(frame, name("lblDateLabel"), "Date:");
@@ -282,20 +304,14 @@ void frmSetReminder::Place_Controls() {
   for (int index = 0; index < kMoments; ++index) {
     fraDateTimeSelection[index]->setGeometry(kMargin + index * (kMomentWidth + kMargin), kMomentTop, kMomentWidth,
                                              kMomentHeight);
-    for (QLabel* caption : {LblSelectDate[index], LblCentury[index], LblYear[index], lblHour[index], lblMin[index]}) {
-      caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    for (const MomentBox& row : kMomentBoxes) {
+      if (row.caption != nullptr) {
+        QLabel* caption = (this->*row.caption)[index];
+        caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        caption->setGeometry(row.caption_left, row.top, row.caption_width, kRowHeight);
+      }
+      (this->*row.box)[index]->setGeometry(row.box_left, row.top, row.box_width, kRowHeight);
     }
-    LblSelectDate[index]->setGeometry(kCaptionLeft, kDateRow, kCaptionWidth, kRowHeight);
-    ComboMonths[index]->setGeometry(kFirstBoxLeft, kDateRow, kMonthBox, kRowHeight);
-    ComboDate[index]->setGeometry(kSecondBoxLeft, kDateRow, kNarrowBox, kRowHeight);
-    LblCentury[index]->setGeometry(kCaptionLeft, kYearRow, kCaptionWidth, kRowHeight);
-    ComboCentury[index]->setGeometry(kFirstBoxLeft, kYearRow, kNarrowBox, kRowHeight);
-    LblYear[index]->setGeometry(kSecondCaptionLeft, kYearRow, kSecondCaptionWidth, kRowHeight);
-    ComboYear[index]->setGeometry(kSecondBoxLeft, kYearRow, kNarrowBox, kRowHeight);
-    lblHour[index]->setGeometry(kCaptionLeft, kTimeRow, kCaptionWidth, kRowHeight);
-    cboHour[index]->setGeometry(kFirstBoxLeft, kTimeRow, kNarrowBox, kRowHeight);
-    lblMin[index]->setGeometry(kSecondCaptionLeft, kTimeRow, kSecondCaptionWidth, kRowHeight);
-    cboMinute[index]->setGeometry(kSecondBoxLeft, kTimeRow, kNarrowBox, kRowHeight);
     cmdSelect[index]->setGeometry(kCaptionLeft, kButtonRow, 120, kButtonHeight);
     cmdUseTaskTime[index]->setGeometry(kCaptionLeft + 130, kButtonRow, 130, kButtonHeight);
     lblDateLabel[index]->setGeometry(kCaptionLeft, kDateTextRow, kTextCaptionWidth, kRowHeight);

@@ -18,8 +18,8 @@ using testing::SetReminderWindowTest;
 
 GoldenCase Dentists_Series() {
   const auto cases = Golden_Cases("task_reminder_record");
-  const auto found =
-      std::find_if(cases.begin(), cases.end(), [](const GoldenCase& golden) { return golden.name == "dentist_series"; });
+  const auto found = std::find_if(cases.begin(), cases.end(),
+                                  [](const GoldenCase& golden) { return golden.name == "dentist_series"; });
   if (found == cases.end()) {
     ADD_FAILURE() << "the golden case dentist_series is missing";
     return {};

@@ -229,7 +229,8 @@ TEST(Set_Reminder_Message, TheSeriesWithoutAPeriod) {
 }
 
 TEST(Set_Reminder_Message, SetHasNoIcon) {
-  EXPECT_EQ(Set_Reminder_Message(kReminderSet), (Message{"Reminder Set", "Reminder has been set.", vbOKOnly, vbNoIcon}));
+  EXPECT_EQ(Set_Reminder_Message(kReminderSet),
+            (Message{"Reminder Set", "Reminder has been set.", vbOKOnly, vbNoIcon}));
 }
 
 TEST(Set_Reminder_Message, AnotherCodeIsEmpty) { EXPECT_TRUE(Set_Reminder_Message(0).empty()); }

@@ -80,7 +80,9 @@ class SetReminderWindowTest : public TaskWindowTest {
   std::string Date_Of(int index) { return Caption_Of(reminder(), "lblDate", index); }
   std::string Time_Of(int index) { return Caption_Of(reminder(), "lblTime", index); }
   std::string Interval_Count(int index) { return Caption_Of(reminder(), "lblRI", index); }
-  void Choose_Interval(int index, const char* entry) { Choose(reminder(), Box(reminder(), "cboInterval", index), entry); }
+  void Choose_Interval(int index, const char* entry) {
+    Choose(reminder(), Box(reminder(), "cboInterval", index), entry);
+  }
 
   // A fixed moment typed into the boxes of a moment (an empty text leaves a box as it is), then
   // Select.
