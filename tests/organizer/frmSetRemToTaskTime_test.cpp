@@ -161,6 +161,16 @@ TEST_F(frmSetRemToTaskTimeTest, CancelChangesNothing) {
   EXPECT_EQ(Time_Of(0), "14:05");
 }
 
+TEST_F(frmSetRemToTaskTimeTest, TheCloseBoxChangesNothing) {
+  Trigger(reminder(), "cmdUseTaskTime(0)");
+  Choose(task_time(), task_time().cboWhen, "At");
+  task_time().close();  // the frame's close box
+  EXPECT_FALSE(task_time().isVisible());
+  EXPECT_EQ(Date_Of(0), "March 5, 2001");
+  Trigger(reminder(), "cmdUseTaskTime(0)");
+  EXPECT_EQ(task_time().cboWhen->currentText(), "At");
+}
+
 TEST_F(frmSetRemToTaskTimeTest, TheWindowKeepsItsChoicesBetweenOpenings) {
   Tie_To_Task(0, "After", "optFinish", {"1"});
   Trigger(reminder(), "cmdUseTaskTime(0)");

@@ -375,6 +375,19 @@ TEST_F(frmSetReminderTest, CloseStoresNothing) {
   EXPECT_EQ(New_Task_Values(), kept);
 }
 
+TEST_F(frmSetReminderTest, TheCloseBoxHidesItAndStoresNothing) {
+  Open_From_New_Task();
+  frmSetReminder* before = &reminder();
+  Select_Moment(0, "June", "01", "", "", "", "");
+  const std::vector<std::string> kept = New_Task_Values();
+  reminder().close();  // the frame's close box
+  EXPECT_FALSE(reminder().isVisible());
+  EXPECT_EQ(New_Task_Values(), kept);
+  Open_From_New_Task();
+  EXPECT_EQ(&reminder(), before);
+  EXPECT_EQ(Box(reminder(), "ComboMonths", 0)->currentText(), "June");
+}
+
 TEST_F(frmSetReminderTest, ThePastAndABackwardSeriesAreAccepted) {
   Open_From_New_Task();
   Click_Reminder_Option("optIntermittently1");
