@@ -1,4 +1,5 @@
 #pragma once
+// The keeper of the reminder values of the new-task window, as the reminder window reaches it.
 #include <string>
 
 #include "core/value.h"

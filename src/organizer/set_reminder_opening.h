@@ -1,4 +1,5 @@
 #pragma once
+// Opening the reminder window for a window that sets a task's reminder, named by its window name.
 #include <string_view>
 
 namespace orrivane::organizer {
