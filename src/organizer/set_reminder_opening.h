@@ -1,0 +1,9 @@
+#pragma once
+// Opening the reminder window for a window that sets a task's reminder, named by its window name.
+#include <string_view>
+
+namespace orrivane::organizer {
+
+void Open_Set_Reminder_Window(std::string_view caller_window_name);
+
+}  // namespace orrivane::organizer
