@@ -112,9 +112,10 @@ constexpr int kFieldWidth = kWindowWidth - kFieldLeft - kMargin;
 // Inside a moment's frame: a label and its box on each row.
 constexpr int kFrameRowsTop = 24;
 constexpr int kFrameRowStep = 28;
-constexpr int kFrameLabelWidth = 128;
-constexpr int kFrameBoxLeft = 10 + kFrameLabelWidth + 6;
-constexpr int kFrameBoxWidth = 130;
+constexpr int kFrameLabelLeft = 6;
+constexpr int kFrameLabelWidth = 148;
+constexpr int kFrameBoxLeft = kFrameLabelLeft + kFrameLabelWidth + 6;
+constexpr int kFrameBoxWidth = 118;
 constexpr int kMomentFrameHeight = kFrameRowsTop + static_cast<int>(std::size(kMomentRows)) * kFrameRowStep + 6;
 // The rows of the window.
 constexpr int kNameTop = 12;
@@ -210,7 +211,7 @@ void frmAddNewAppointment_Reminder::Place_Controls() {
     for (const MomentRow& row : kMomentRows) {
       QLabel* label = (this->*row.label)[moment];
       label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-      label->setGeometry(10, top, kFrameLabelWidth, kRowHeight);
+      label->setGeometry(kFrameLabelLeft, top, kFrameLabelWidth, kRowHeight);
       (this->*row.box)[moment]->setGeometry(kFrameBoxLeft, top, kFrameBoxWidth, kRowHeight);
       top += kFrameRowStep;
     }
