@@ -135,6 +135,32 @@ bool Date_Beyond_Month(const TaskMomentBoxes& boxes, int month_length) {
   return !boxes.date.empty() && Parse_Number(boxes.date).value_or(0) > month_length;
 }
 
+// The fields of one moment of a record.
+struct MomentFields {
+  Value ScheduleRecord::* month;
+  Value ScheduleRecord::* date;
+  Value ScheduleRecord::* century;
+  Value ScheduleRecord::* year;
+  Value ScheduleRecord::* hour;
+  Value ScheduleRecord::* minute;
+};
+constexpr MomentFields kStartFields{&ScheduleRecord::Start_Month,   &ScheduleRecord::Start_Date,
+                                    &ScheduleRecord::Start_Century, &ScheduleRecord::Start_Year,
+                                    &ScheduleRecord::Start_Hour,    &ScheduleRecord::Start_Minute};
+constexpr MomentFields kFinishFields{&ScheduleRecord::Finish_Month,   &ScheduleRecord::Finish_Date,
+                                     &ScheduleRecord::Finish_Century, &ScheduleRecord::Finish_Year,
+                                     &ScheduleRecord::Finish_Hour,    &ScheduleRecord::Finish_Minute};
+
+// The boxes of a moment as they stand, its century and year as numbers.
+void Put_Moment(ScheduleRecord& task, const MomentFields& fields, const TaskMomentBoxes& boxes, const TaskYear& year) {
+  task.*fields.month = boxes.month;
+  task.*fields.date = boxes.date;
+  task.*fields.century = year.century;
+  task.*fields.year = year.year;
+  task.*fields.hour = boxes.hour;
+  task.*fields.minute = boxes.minute;
+}
+
 // The 24-hour hour of a system time ("2:05:09 PM" gives 14).
 Value Military_Hour(const Value& system_time) {
   return Convert_Hour_To_Military_Time(Parse_System_Time(system_time, "Hour"),
@@ -234,19 +260,9 @@ ScheduleRecord New_Task_Record(const NewTaskEntries& entries, const NewTaskCheck
   task.Task_Name = entries.name;
   task.Task_Description = details.description;
   task.Task_Comments = details.comments;
-  task.Start_Month = start.month;
-  task.Start_Date = start.date;
-  task.Start_Century = start_year.century;
-  task.Start_Year = start_year.year;
-  task.Start_Hour = start.hour;
-  task.Start_Minute = start.minute;
+  Put_Moment(task, kStartFields, start, start_year);
   task.Time_Range_Flag = range ? 1 : 0;
-  task.Finish_Month = finish.month;
-  task.Finish_Date = finish.date;
-  task.Finish_Century = finish_year.century;
-  task.Finish_Year = finish_year.year;
-  task.Finish_Hour = finish.hour;
-  task.Finish_Minute = finish.minute;
+  Put_Moment(task, kFinishFields, finish, finish_year);
   task.Color_Code = details.colour;
   task.Person_Name = entries.person;
   task.Reminder_Status = details.reminder_on ? 1 : 0;

@@ -118,8 +118,8 @@ TEST_F(frmAddNewAppointment_ReminderTest, TheTimeRangeEnablesTheFinishInTheWindo
   EXPECT_EQ(entry().FraFrom->title(), "From");
   EXPECT_EQ(entry().FraTo->title(), "To");
   for (QComboBox* box : {entry().ComboMonths[kTaskFinish], entry().ComboDate[kTaskFinish],
-                         entry().ComboCentury[kTaskFinish], entry().ComboYear[kTaskFinish], entry().cboHour[kTaskFinish],
-                         entry().cboMinute[kTaskFinish]}) {
+                         entry().ComboCentury[kTaskFinish], entry().ComboYear[kTaskFinish],
+                         entry().cboHour[kTaskFinish], entry().cboMinute[kTaskFinish]}) {
     EXPECT_TRUE(box->isEnabled());
     EXPECT_EQ(controls::Back_Color(box), controls::kWindowBackground) << box->objectName().toStdString();
   }
@@ -195,8 +195,8 @@ TEST_F(frmAddNewAppointment_ReminderTest, ANewMembersMarkerComesBeforeTheTaskByt
   Click_Indicator(entry().optOn);
   Add();
 
-  const testing::GoldenCase golden{"new_member_reminder_on",
-                                   std::filesystem::path(ORRIVANE_TEST_DATA) / "golden/new_task/new_member_reminder_on"};
+  const std::filesystem::path folder = std::filesystem::path(ORRIVANE_TEST_DATA) / "golden/new_task";
+  const testing::GoldenCase golden{"new_member_reminder_on", folder / "new_member_reminder_on"};
   EXPECT_EQ(Read_File(organizer::kScheduleFile), golden.Expected());
   EXPECT_EQ(Read_File(organizer::kTaskReminderFile), golden.Bytes("reminders.tmp"));
 }
@@ -409,30 +409,6 @@ TEST_F(frmAddNewAppointment_ReminderTest, ANewMembersNameIsClearedWithTheTasksNa
   Expect_Only_Message("Fields Missing Data", "Required fields left blank or contain invalid entries.");
 }
 
-TEST_F(frmAddNewAppointment_ReminderTest, NoMonthAndNoHourAreFieldsMissing) {
-  Type(entry().txtNameOfEvent, "Dentist");
-  Enter_Moment(kTaskStart, "", "05", "", "", "", "30");
-  New_Member("Anna");
-  Add_Refused("Fields Missing Data");
-  Expect_Only_Message("Fields Missing Data", "Required fields left blank or contain invalid entries.");
-}
-
-TEST_F(frmAddNewAppointment_ReminderTest, February30WithAnEmptyMinuteIsTheMinute) {
-  Type(entry().txtNameOfEvent, "Dentist");
-  Enter_Moment(kTaskStart, "February", "30", "", "", "14", "");
-  New_Member("Anna");
-  Add_Refused("No Begin Minute Selected");
-  Expect_Only_Message("No Begin Minute Selected", "Please select the minute for which the task is to begin.");
-}
-
-TEST_F(frmAddNewAppointment_ReminderTest, February29Of1900IsRefused) {
-  Type(entry().txtNameOfEvent, "Dentist");
-  Enter_Moment(kTaskStart, "February", "29", "19", "00", "14", "30");
-  New_Member("Anna");
-  Add_Refused("Invalid Date Selection");
-  Expect_Only_Message("Invalid Date Selection", "February only has 28 days in it for the year you selected.");
-}
-
 TEST_F(frmAddNewAppointment_ReminderTest, StartAndFinishIdenticalToTheMinuteAreAccepted) {
   Click_Indicator(entry().chkSelectTimeRange);
   Enter_Dentist();
@@ -465,6 +441,7 @@ struct Refusal {
   const char* name;
   const char* member;
   const char* title;
+  const char* text = nullptr;  // checked where given
 };
 
 constexpr MomentTexts kStart{"March", "05", "20", "01", "14", "30"};
@@ -490,6 +467,15 @@ const Refusal kRefusals[] = {
      "Invalid Date Selection"},
     {"both beyond their months", {"April", "31", "20", "01", "14", "30"}, {"June", "31", "20", "01", "14", "30"},
      "Dentist", "Anna", "Invalid Date Selections"},
+    // No particular message for two missing items at once.
+    {"no month and no hour", {"", "05", "", "", "", "30"}, kFinish, "Dentist", "Anna", "Fields Missing Data",
+     "Required fields left blank or contain invalid entries."},
+    // Missing items outrank impossible dates.
+    {"February 30 with an empty minute", {"February", "30", "", "", "14", ""}, kFinish, "Dentist", "Anna",
+     "No Begin Minute Selected", "Please select the minute for which the task is to begin."},
+    // The year is tested in the Gregorian style.
+    {"February 29 of 1900", {"February", "29", "19", "00", "14", "30"}, kFinish, "Dentist", "Anna",
+     "Invalid Date Selection", "February only has 28 days in it for the year you selected."},
 };
 
 class RefusalTest : public testing::NewTaskWindowTest, public ::testing::WithParamInterface<Refusal> {
@@ -516,6 +502,9 @@ TEST_P(RefusalTest, ShowsItsMessageAndAddsNothing) {
   EXPECT_EQ(machine().Messages()[0].title, refusal.title);
   EXPECT_EQ(machine().Messages()[0].buttons, vbOKOnly);
   EXPECT_EQ(machine().Messages()[0].icon, vbExclamation);
+  if (refusal.text != nullptr) {
+    EXPECT_EQ(machine().Messages()[0].text, refusal.text);
+  }
   EXPECT_EQ(Read_File(organizer::kScheduleFile), "");
   EXPECT_EQ(entry().txtNameOfEvent->text().toStdString(), refusal.name) << "the window stays as it was";
 }

@@ -137,32 +137,28 @@ TEST(Check_New_Task, EmptyYearsAreNeverMissing) {
   EXPECT_EQ(check.years[kTaskFinish].year, Value(1));
 }
 
-TEST(Check_New_Task, TwoEmptyItemsOfTheStartAre11) {
-  NewTaskEntries entries = Dentist();
-  entries.moments[kTaskStart].month.clear();
-  entries.moments[kTaskStart].hour.clear();
-  EXPECT_EQ(Code(entries), 11);
-}
+// Two empty items, wherever they stand: code 11.
+struct TwoMissing {
+  const char* what;
+  bool range;
+  void (*empty)(NewTaskEntries&);
+};
+const TwoMissing kTwoMissing[] = {
+    {"two items of the start", false,
+     [](NewTaskEntries& e) { e.moments[kTaskStart].month.clear(); e.moments[kTaskStart].hour.clear(); }},
+    {"no person and no name", false, [](NewTaskEntries& e) { e.person.clear(); e.name.clear(); }},
+    {"one of the start and one of the finish", true,
+     [](NewTaskEntries& e) { e.moments[kTaskStart].minute.clear(); e.moments[kTaskFinish].minute.clear(); }},
+    {"two items of the finish", true,
+     [](NewTaskEntries& e) { e.moments[kTaskFinish].month.clear(); e.moments[kTaskFinish].date.clear(); }},
+};
 
-TEST(Check_New_Task, NoPersonAndNoNameAre11) {
-  NewTaskEntries entries = Dentist();
-  entries.person.clear();
-  entries.name.clear();
-  EXPECT_EQ(Code(entries), 11);
-}
-
-TEST(Check_New_Task, TheCountGoesOnFromTheStartToTheFinish) {
-  NewTaskEntries entries = Ranged();
-  entries.moments[kTaskStart].minute.clear();
-  entries.moments[kTaskFinish].minute.clear();
-  EXPECT_EQ(Code(entries), 11);
-}
-
-TEST(Check_New_Task, TwoEmptyItemsOfTheFinishAre11) {
-  NewTaskEntries entries = Ranged();
-  entries.moments[kTaskFinish].month.clear();
-  entries.moments[kTaskFinish].date.clear();
-  EXPECT_EQ(Code(entries), 11);
+TEST(Check_New_Task, TwoEmptyItemsAre11) {
+  for (const TwoMissing& missing : kTwoMissing) {
+    NewTaskEntries entries = missing.range ? Ranged() : Dentist();
+    missing.empty(entries);
+    EXPECT_EQ(Code(entries), 11) << missing.what;
+  }
 }
 
 TEST(Check_New_Task, AFinishBeforeTheStartIs12) {
@@ -319,7 +315,8 @@ TEST(New_Task_Message, EveryCodeHasItsTitleAndTextWithOneOKAndTheExclamation) {
 TEST(New_Task_Message, NoCodeNoMessage) { EXPECT_TRUE(New_Task_Message(NewTaskCheck{}).empty()); }
 
 TEST(New_Task_Message, TheQuestionAndTheNews) {
-  EXPECT_EQ(Confirm_New_Task_Message(), (Message{"Confirm", "Add this task to the schedule?", vbOKCancel, vbInformation}));
+  EXPECT_EQ(Confirm_New_Task_Message(),
+            (Message{"Confirm", "Add this task to the schedule?", vbOKCancel, vbInformation}));
   EXPECT_EQ(New_Task_Added_Message(),
             (Message{"Task Added", "The task\\event has been added to the log.", vbOKOnly, vbNoIcon}));
 }
