@@ -1,5 +1,4 @@
 #pragma once
-// The keeper of the reminder values of the new-task window, as the reminder window reaches it.
 #include <string>
 
 #include "core/value.h"

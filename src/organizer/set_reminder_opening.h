@@ -1,5 +1,4 @@
 #pragma once
-// Opening the reminder window for a window that sets a task's reminder, named by its window name.
 #include <string_view>
 
 namespace orrivane::organizer {
