@@ -7,7 +7,6 @@
 
 #include "calendar/frmLargeCalendar.h"
 #include "engine/vocabulary.h"
-#include "organizer/colour_palette.h"
 #include "organizer/frmColorPalette.h"
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/log_file.h"
