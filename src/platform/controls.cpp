@@ -10,6 +10,7 @@ QColor To_QColor(unsigned colour) {
   const QPalette palette = QApplication::palette();
   switch (colour) {
     case colours::kActiveTitleText: return palette.color(QPalette::Active, QPalette::HighlightedText);
+    case kWindowBackground: return palette.color(QPalette::Base);
     case kButtonFace: return palette.color(QPalette::Button);
     case kGrayText: return palette.color(QPalette::Disabled, QPalette::WindowText);
     case kButtonText: return palette.color(QPalette::ButtonText);
@@ -42,6 +43,15 @@ unsigned Read(const QWidget* widget, const char* property, unsigned fallback) {
 
 void Set_Fore_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::WindowText, "ForeColor", colour); }
 void Set_Back_Color(QWidget* widget, unsigned colour) { Apply(widget, QPalette::Window, "BackColor", colour); }
+void Set_Box_Color(QWidget* box, unsigned colour) {
+  box->setProperty("BackColor", QVariant::fromValue(colour));
+  QPalette palette = box->palette();
+  // A text box shows its face in the base colour, a list-only combo box in the button colour.
+  palette.setColor(QPalette::Base, To_QColor(colour));
+  palette.setColor(QPalette::Button, To_QColor(colour));
+  box->setPalette(palette);
+}
+
 unsigned Fore_Color(const QWidget* widget) { return Read(widget, "ForeColor", kButtonText); }
 unsigned Back_Color(const QWidget* widget) { return Read(widget, "BackColor", kButtonFace); }
 

@@ -18,6 +18,7 @@ using colours::kButtonFace;
 using colours::kButtonText;
 using colours::kGrayText;
 using colours::kRed;
+using colours::kWindowBackground;
 
 // The colour a program colour number stands for, system colours through the palette.
 QColor To_QColor(unsigned colour);
@@ -56,6 +57,9 @@ void Set_Fore_Color(QWidget* widget, unsigned colour);
 void Set_Back_Color(QWidget* widget, unsigned colour);
 unsigned Fore_Color(const QWidget* widget);
 unsigned Back_Color(const QWidget* widget);
+// The face of a text or combo box in a program colour (the window background of an enabled box,
+// the button face of a disabled one), read back by Back_Color.
+void Set_Box_Color(QWidget* box, unsigned colour);
 
 // What a box holds, as the program reads it.
 inline std::string Text_Of(const QComboBox* box) { return box->currentText().toStdString(); }
