@@ -31,6 +31,7 @@ void New_Log() { Window<frmScheduler_Reminder>().Open_New_Schedule(); }
 void Save_Log() { Window<frmScheduler_Reminder>().Quick_Schedule_File_Save(); }
 void Save_Log_As() { Window<frmScheduler_Reminder>().Activate_Save_File_Window(); }
 void Organizer() { controls::Show_In_Front(Window<frmScheduler_Reminder>()); }
+void Add_New_Task() { Window<frmScheduler_Reminder>().Open_Add_New_Task_Window(); }
 void Find_Time_Length() { controls::Show_In_Front(Window<frmFindDateDifference>()); }
 void Help_Contents() { controls::Show_In_Front(Window<frmHelpContents>()); }
 void License() { controls::Show_In_Front(Window<frmLiscense>()); }
@@ -73,7 +74,7 @@ constexpr CalendarMenuRow kCalendarMenu[] = {
     {"mnuView", "mnuTaskEventInfo", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I", nullptr, false, kLater},
     {"", "mnuLog", "mnuLog", "&Log", ""},
     {"mnuLog", "mnuAddNewTaskEventToLog", "mnuAddNewTaskEventToLog", "Add New Task\\Event To Log...", "Ctrl+E",
-     nullptr, false, kLater},
+     Add_New_Task},
     {"mnuLog", "mnuAddNewGroupMember", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G", nullptr,
      false, kLater},
     {"mnuLog", "mnuDeleteATaskEvent", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3", nullptr, false,

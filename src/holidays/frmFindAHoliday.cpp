@@ -69,17 +69,6 @@ const RowButton kRowButtons[] = {
     {&frmFindAHoliday::cmdClose, "cmdClose", "Close"},
 };
 
-// A text box's face in a program colour, kept readable as the program reads colours back.
-void Set_Text_Box_Color(QLineEdit* box, unsigned colour) {
-  box->setProperty("BackColor", QVariant::fromValue(colour));
-  QPalette palette = box->palette();
-  const QPalette standard = QApplication::palette();
-  palette.setColor(QPalette::Base, colour == kWindowBackground ? standard.color(QPalette::Base)
-                                                               : controls::To_QColor(colour));
-  box->setPalette(palette);
-}
-
-
 }  // namespace
 
 // ---- The feed of lines ------------------------------------------------------------------------
@@ -166,7 +155,7 @@ void frmFindAHoliday::Build_Controls() {
   chkSelectRangeOfYears->setObjectName("chkSelectRangeOfYears");
   txtToYear = controls::Make<QLineEdit>(body, "txtToYear");
   txtToYear->setEnabled(false);
-  Set_Text_Box_Color(txtToYear, controls::kButtonFace);
+  controls::Set_Box_Color(txtToYear, controls::kButtonFace);
   cmdSelect = Make_Button(body, "cmdSelect", "Display");
 
   lstListHolidayDates = new QListView(body);
@@ -459,7 +448,7 @@ void frmFindAHoliday::optDisplayAllByYear_Click() {
 void frmFindAHoliday::chkSelectRangeOfYears_Click() {
   const bool range = chkSelectRangeOfYears->isChecked();
   txtToYear->setEnabled(range);
-  Set_Text_Box_Color(txtToYear, range ? kWindowBackground : controls::kButtonFace);
+  controls::Set_Box_Color(txtToYear, range ? kWindowBackground : controls::kButtonFace);
 }
 
 void frmFindAHoliday::lstListHolidayDates_Click() { Enable_Commands(kSelectedLineCommands, true); }

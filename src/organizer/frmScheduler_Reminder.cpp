@@ -30,7 +30,7 @@ constexpr MenuEntry kOrganizerMenu[] = {
     {"mnuFile", "mnuPrintSCreen", "Print Window", ""},
     {"mnuFile", "mnuCloseScheduler", "Close the Organizer", "Ctrl+C"},
     {"", "mnuLog", "&Log", ""},
-    {"mnuLog", "mnuAddNewTask", "Add New Task To Current Log...", "Ctrl+E", !kSubmenu, kLater},
+    {"mnuLog", "mnuAddNewTask", "Add New Task To Current Log...", "Ctrl+E"},
     {"", "mnuView", "&View", ""},
     {"mnuView", "mnuLaterTimePeriod", "View the Next Time Period on the Task Chart", "Ctrl+L"},
     {"mnuView", "mnuEarlierTimePeriod", "View the Previous Time Period on the Task Chart", "Ctrl+P"},
@@ -86,6 +86,7 @@ frmScheduler_Reminder::frmScheduler_Reminder() {
   Connect_Chart();
   Connect_Tasks();
   Connect_Log();
+  Connect_New_Task();
   connect(cmdCloseScheduler, &QPushButton::clicked, this, [this] { cmdCloseScheduler_Click(); });
   menu->On("mnuCloseScheduler", [this] { cmdCloseScheduler_Click(); });
 }

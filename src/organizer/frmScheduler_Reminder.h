@@ -7,7 +7,7 @@
 // The window's procedures are split by role, one file each: this window's controls and menu
 // (frmScheduler_Reminder.cpp), the chart (frmScheduler_ReminderChart.cpp), the task list, its
 // filter and showing a task (frmScheduler_ReminderTasks.cpp), the log files
-// (frmScheduler_ReminderLog.cpp).
+// (frmScheduler_ReminderLog.cpp), the entry of new tasks (frmScheduler_ReminderNewTask.cpp).
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -112,6 +112,12 @@ class frmScheduler_Reminder : public QMainWindow {
   void Form_Unload();
   void cmdCloseScheduler_Click();
 
+  // ---- New tasks (frmScheduler_ReminderNewTask.cpp) ------------------------------------------
+  // Fresh reminder values first, then the new-task window in front, not modal.
+  void Open_Add_New_Task_Window();
+  // Resets the new-task window's reminder values to today, now, one reminder and no interval.
+  void Refresh_Set_Reminder_Window();
+
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -129,6 +135,7 @@ class frmScheduler_Reminder : public QMainWindow {
   // Runs `click` when the user chooses another entry of `list`, by the mouse or the arrow keys.
   void On_Choice(QListWidget* list, const QListWidgetItem*& chosen, const std::function<void()>& click);
   void Connect_Log();
+  void Connect_New_Task();
   void Form_Activate();
 
   std::array<Value, organizer::kScreenChartCells> chart_owners_{};  // Chart_History_List_Content_Tracker

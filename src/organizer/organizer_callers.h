@@ -35,6 +35,13 @@ inline constexpr std::string_view kRefreshingOrigins[] = {
 inline constexpr std::string_view kTerminateThisProgram = "Form1.Terminate_This_Program(PlaceOfOrigin)";
 inline constexpr std::string_view kOrganizerFormUnload = "Form_Unload(Cancel As Integer)";
 
+// ---- frmColorPalette: whose colour label it serves ---------------------------------------------
+inline constexpr std::string_view kNewTaskSelectColour = "frmAddNewAppointment_Reminder.cmdSelect_Click()";
+inline constexpr std::string_view kTaskInformationSelectColour = "frmTaskInformation.cmdSelectNewColorCode_Click()";
+// The caller of the task's name and person, which writes its identity only after the palette
+// has closed.
+inline constexpr std::string_view kChangeTaskInfoSelectColour = "frmChangeTaskInfo.CmdChangeColorCode_Click()";
+
 // ---- View_Task_Event_Information: where the record number comes from --------------------------
 inline constexpr std::string_view kLstScheduleListDblClick = "lstScheduleList_DblClick()";
 inline constexpr std::string_view kCmdViewTaskInformationClick = "cmdViewTaskInformation_Click()";

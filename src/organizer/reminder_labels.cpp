@@ -75,10 +75,8 @@ Value ReminderVariables::Store(std::string_view name, std::string_view verb, con
 }
 
 void ReminderVariables::Put_Fields_Of(const ScheduleRecord& record) {
-  const Value* fields[] = {&record.Date_String[0],   &record.Time_String[0], &record.Date_String[1],
-                           &record.Time_String[1],   &record.Reminder_Interval, &record.Interval_Days,
-                           &record.Interval_Hours,   &record.Interval_Minutes};
-  static_assert(std::size(fields) == kNames.size());
+  const auto fields = Reminder_Fields_Of(record);
+  static_assert(fields.size() == kNames.size());
   for (std::size_t i = 0; i < kNames.size(); ++i) Store(kNames[i], "Put", *fields[i]);
 }
 

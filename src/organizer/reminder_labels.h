@@ -31,6 +31,14 @@ std::string Reminder_Interval_Text(const Value& Interval_Days, const Value& Inte
 std::optional<ReminderLabels> Set_Reminder_Labels(const Value& Value_, const Value& Interval_Days,
                                                   const Value& Interval_Hours, const Value& Interval_Minutes);
 
+// Fields 21 to 28 of a record, in the order of ReminderVariables::kNames.
+template <class Record>
+constexpr auto Reminder_Fields_Of(Record& record) {
+  return std::array{&record.Date_String[0],   &record.Time_String[0], &record.Date_String[1],
+                    &record.Time_String[1],   &record.Reminder_Interval, &record.Interval_Days,
+                    &record.Interval_Hours,   &record.Interval_Minutes};
+}
+
 // The keeper procedure Store_Reminder_Variables of a window that edits a task: "Put" stores the
 // value under one of the eight names, and every verb answers what is stored under the name. A
 // name that isn't one of the eight stores nothing and answers empty.
