@@ -85,7 +85,7 @@ class frmSetReminderTest : public SetReminderWindowTest {
     return values;
   }
   std::vector<std::string> New_Task_Values() {
-    return Values_Of([](std::string_view name) { return New_Task(std::string(name).c_str()); });
+    return Values_Of([this](std::string_view name) { return New_Task(std::string(name).c_str()); });
   }
   std::vector<std::string> Task_Information_Values() {
     return Values_Of([this](std::string_view name) { return Task_Information(std::string(name).c_str()); });
@@ -198,7 +198,13 @@ TEST_F(frmSetReminderTest, ASeriesToTheLastMoment) {
 }
 
 TEST_F(frmSetReminderTest, TheOpeningSetsTheOptionOfTheKindKept) {
-  Put_New_Task("Reminder_Interval", 3);
+  Open_From_New_Task();
+  Click_Reminder_Option("optIntermittently2");
+  Choose_Interval(0, "1");
+  Trigger(reminder(), "cmdOK");
+  Open_From_Task_Information(Task_With_Series());
+  EXPECT_TRUE(reminder().optIntermittently1->isChecked());
+  Trigger(reminder(), "cmdClose");
   Open_From_New_Task();
   EXPECT_TRUE(reminder().optIntermittently2->isChecked());
   EXPECT_EQ(Frame_Caption(1), "Last Message At");

@@ -1,8 +1,8 @@
 #pragma once
-// What the tests of setting a reminder share: the two windows, their boxes chosen from with the
-// keyboard or typed into, options clicked, the moments' labels read back, and the two callers,
-// the new-task window (its keeper) and the task information window (a task shown as the user
-// shows it).
+// What the tests of setting a reminder share: the program started at a fixed moment, the two
+// windows, their boxes chosen from with the keyboard or typed into, options clicked, the moments'
+// labels read back, and the two callers: the new-task window opened from the Organizer, and the
+// task information window showing a task as the user shows it.
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -12,13 +12,15 @@
 #include <string>
 #include <vector>
 
+#include "calendar/Form1.h"
+#include "organizer/frmAddNewAppointment_Reminder.h"
 #include "organizer/frmSetRemToTaskTime.h"
 #include "organizer/frmSetReminder.h"
-#include "organizer/new_task_reminder_keeper.h"
 #include "organizer/organizer_callers.h"
 #include "organizer/reminder_labels.h"
 #include "organizer/set_reminder_opening.h"
 #include "organizer/task_window_test.h"
+#include "shell/frmAbout.h"
 
 namespace orrivane::testing {
 
@@ -27,8 +29,10 @@ class SetReminderWindowTest : public TaskWindowTest {
   void SetUp() override {
     TaskWindowTest::SetUp();
     machine().Set_Now(2001, 3, 5, 14, 5, 9);
-    // The new-task window's values as its refresh leaves them at this moment.
-    Refresh_New_Task_Values("March 5, 2001", "14:05");
+    // The program's start: the main window's first activation empties the working files.
+    Window<Form1>().show();
+    Process_Events();
+    Window<frmAbout>().hide();
   }
 
   frmSetReminder& reminder() { return Window<frmSetReminder>(); }
@@ -124,20 +128,19 @@ class SetReminderWindowTest : public TaskWindowTest {
   }
 
   // ---- The callers ----------------------------------------------------------------------------
-  // The new-task window's keeper, as its values stand after the window has been refreshed.
-  static Value New_Task(const char* name) { return organizer::New_Task_Reminder_Variables(name, "Get", {}); }
-  static void Put_New_Task(const char* name, const Value& value) {
-    organizer::New_Task_Reminder_Variables(name, "Put", value);
-  }
-  static void Refresh_New_Task_Values(const char* date, const char* time) {
-    for (const char* name : {"Date_String(0)", "Date_String(1)"}) Put_New_Task(name, date);
-    for (const char* name : {"Time_String(0)", "Time_String(1)"}) Put_New_Task(name, time);
-    Put_New_Task("Reminder_Interval", 1);
-    for (const char* name : {"Interval_Days", "Interval_Hours", "Interval_Minutes"}) Put_New_Task(name, 0);
-  }
-  // What the new-task window's Set... button does.
+  frmAddNewAppointment_Reminder& entry() { return Window<frmAddNewAppointment_Reminder>(); }
+  Value New_Task(const char* name) { return entry().Store_Reminder_Variables(name, "Get"); }
+  // The new-task window, opened from the Organizer's Log menu unless it stands open (its
+  // reminder values start as today and now), the reminder switched on and Set... pressed.
   void Open_From_New_Task() {
-    organizer::Open_Set_Reminder_Window(organizer::kNewTaskWindow);
+    if (!entry().isVisible()) {
+      controls::Show_In_Front(organizer());
+      Process_Events();
+      Trigger(organizer(), "mnuAddNewTask");
+      Process_Events();
+    }
+    if (!entry().optOn->isChecked()) Click_Option(entry().optOn);
+    Trigger(entry(), "cmdSet");
     Process_Events();
     ASSERT_TRUE(reminder().isVisible());
   }
