@@ -68,15 +68,18 @@ const Option_Spec* Find_Option(const Command_Spec& command, std::string_view nam
 
 // Options are the words that name one of the command's options ("--units ymd" or
 // "--units=ymd"), up to a "--"; every other word is an operand, so that "-5" is a year. The
-// words are the command's name and what follows it; the operands keep their storage.
+// words are the command's name and what follows it; the operands keep their storage, gathered
+// behind the name, and a word already in its place is not moved (most commands have no option).
 Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string>& words) {
+  constexpr std::size_t kFirstOperand = 1;  // behind the command's name
   Arguments arguments;
   std::size_t operands = 0;
   bool options_end = false;
-  for (std::size_t i = 1; i < words.size(); ++i) {
+  for (std::size_t i = kFirstOperand; i < words.size(); ++i) {
     std::string& word = words[i];
     if (options_end || !word.starts_with("--")) {
-      words[operands++] = std::move(word);
+      const std::size_t place = kFirstOperand + operands++;
+      if (place != i) words[place] = std::move(word);
       continue;
     }
     if (word == "--") {
@@ -97,7 +100,7 @@ Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string>&
     }
     arguments.options.emplace_back(option->name, std::move(value));
   }
-  arguments.operands = std::span<const std::string>(words.data(), operands);
+  arguments.operands = std::span<const std::string>(words.data() + kFirstOperand, operands);
   if (arguments.operands.size() < command.least_operands || arguments.operands.size() > command.most_operands) {
     Usage_Error(command);
   }

@@ -58,17 +58,30 @@ bool Read_Word(std::string_view line, std::size_t& at, std::string& word) {
   return true;
 }
 
+// The room of a word, reusing a string left from an earlier line where there is one.
+std::string& Room_For_Word(std::vector<std::string>& words, std::size_t index) {
+  if (index == words.size()) return words.emplace_back();
+  words[index].clear();
+  return words[index];
+}
+
 }  // namespace
 
 bool Split_Shell_Words(std::string_view line, std::vector<std::string>& words) {
-  words.clear();
   words.reserve(kUsualWords);
+  std::size_t count = 0;
   std::size_t at = 0;
+  bool complete = true;
   for (;;) {
     while (at < line.size() && Is_Separator(line[at])) ++at;
-    if (at >= line.size() || line[at] == '#') return true;
-    if (!Read_Word(line, at, words.emplace_back())) return false;
+    if (at >= line.size() || line[at] == '#') break;
+    if (!Read_Word(line, at, Room_For_Word(words, count++))) {
+      complete = false;
+      break;
+    }
   }
+  words.resize(count);
+  return complete;
 }
 
 std::optional<std::vector<std::string>> Split_Shell_Words(std::string_view line) {
