@@ -36,7 +36,7 @@ constexpr Option_Spec kDueOptions[] = {{"--log", true}, {"--notes", true}};
 constexpr Option_Spec kTaskOptions[] = {{"--after", true}, {"--before", true}, {"--start", false}, {"--finish", false}};
 constexpr Option_Spec kIcsOptions[] = {{"--notes", true}};
 
-constexpr std::array<Command_Spec, 13> kCommands{{
+constexpr std::array<Command_Spec, 14> kCommands{{
     // name        usage                                                     in help  options          operands  handler
     {"weekday",   "weekday  [--julian] MONTH DAY YEAR",                      true,  kStyleOption,    3, 3, Run_Weekday},
     {"month",     "month    [--julian] MONTH YEAR",                          true,  kStyleOption,    2, 2, Run_Month},
@@ -50,6 +50,7 @@ constexpr std::array<Command_Spec, 13> kCommands{{
                                                                              true,  kDueOptions,     2, 4, Run_Due},
     {"tasks",     "tasks    FILE NAME [--after BOUND] [--before BOUND] [--start] [--finish]",
                                                                              true,  kTaskOptions,    2, 2, Run_Tasks},
+    {"ics",       "ics      FILE [--notes FILE]",                            true,  kIcsOptions,     1, 1, Run_Ics},
     {"batch",     "batch",                                                   true,  {},              0, 0, Run_Batch},
     {"--help",    "--help | --version",                                      true,  {},              0, 0, Run_Help},
     {"--version", "--help | --version",                                      false, {},              0, 0, Run_Version},

@@ -48,6 +48,7 @@ void Run_Minutes(const Arguments& arguments, Command_Context& context);
 void Run_Remaining(const Arguments& arguments, Command_Context& context);
 void Run_Due(const Arguments& arguments, Command_Context& context);
 void Run_Tasks(const Arguments& arguments, Command_Context& context);
+void Run_Ics(const Arguments& arguments, Command_Context& context);
 void Run_Batch(const Arguments& arguments, Command_Context& context);
 void Run_Help(const Arguments& arguments, Command_Context& context);
 void Run_Version(const Arguments& arguments, Command_Context& context);

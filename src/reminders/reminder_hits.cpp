@@ -151,6 +151,7 @@ class RangeCollector {
     }
     For_Each_Hit(hits, from_, to_, [&](std::int64_t number) {
       if (calendar_.Minute_Of(number)) due_.push_back({number, source, index});
+      return true;
     });
   }
 

@@ -72,7 +72,8 @@ ReminderHits Task_Reminder_Hits(const organizer::ScheduleRecord& record);
 // The hits of a moment that fires once.
 ReminderHits One_Off_Hits(std::int64_t number);
 
-// Hands `visit` each number of `hits` from `from` to `to`, in ascending order.
+// Hands `visit` each number of `hits` from `from` to `to`, in ascending order, for as long as
+// it answers true.
 template <class Visit>
 void For_Each_Hit(const ReminderHits& hits, std::int64_t from, std::int64_t to, Visit visit);
 
@@ -118,7 +119,7 @@ void For_Each_Hit(const ReminderHits& hits, std::int64_t from, std::int64_t to, 
   std::optional<std::int64_t> hit = detail::First_Hit(hits, from, to);
   if (!hit) return;
   for (std::int64_t n = *hit;; n += static_cast<std::int64_t>(hits.step)) {
-    visit(n);
+    if (!visit(n)) return;
     if (static_cast<std::uint64_t>(top - n) < hits.step) return;
   }
 }
