@@ -264,15 +264,16 @@ void Run_Ics(const Arguments& arguments, Command_Context& context) {
   icalcomponent_add_property(calendar.get(), icalproperty_new_prodid(kProductId));
   ComparisonCalendar days;
   Alarm_Maker alarms(days);
+  // A missing reminder file fails before the log is read.
+  const std::string* notes = arguments.Value_Of("--notes");
+  std::optional<reminders::NonTaskReminderReader> notes_file;
+  if (notes != nullptr) notes_file.emplace(*notes);
   organizer::For_Each_Record(arguments.operands[0], [&](const ScheduleRecord& record) {
     // Marker records stand for members, not for events.
     if (record.Record_Number.number() > -1) Add_Task(calendar.get(), record, alarms);
   });
-  if (const std::string* notes = arguments.Value_Of("--notes")) {
-    reminders::NonTaskReminderReader file(*notes);
-    reminders::NonTaskReminderRecord note;
-    while (file.Next(note)) Add_Note(calendar.get(), note, days, alarms);
-  }
+  reminders::NonTaskReminderRecord note;
+  while (notes_file && notes_file->Next(note)) Add_Note(calendar.get(), note, days, alarms);
   char* text = icalcomponent_as_ical_string_r(calendar.get());
   context.out.Text(text);
   icalmemory_free_buffer(text);
