@@ -82,13 +82,12 @@ std::optional<CalendarMinute> ComparisonCalendar::Minute_Of(std::int64_t number)
                         static_cast<int>(into_month % kMinutesPerHour)};
 }
 
-std::optional<std::int64_t> ComparisonCalendar::Next_Minute_Number(std::int64_t number, std::int64_t first_year,
-                                                                  std::int64_t last_year) {
-  const std::int64_t year = Year_Holding(number, first_year, last_year);
+std::optional<std::int64_t> ComparisonCalendar::Next_Minute_Number(std::int64_t number) {
+  const std::int64_t year = Year_Holding(number, kFirstYear, engine::kLastYear);
   const YearNumbers& numbers = Year(year);
   if (number < numbers.month_start[0]) return numbers.month_start[0];
   if (number < numbers.month_start[kMonths]) return number;
-  if (year == last_year) return std::nullopt;
+  if (year == engine::kLastYear) return std::nullopt;
   return Year(year + 1).month_start[0];
 }
 
@@ -140,9 +139,7 @@ struct FirstFailure {
 class RangeCollector {
  public:
   RangeCollector(std::int64_t from, std::int64_t to, ComparisonCalendar& calendar)
-      : from_(from), to_(to), calendar_(calendar),
-        first_year_(calendar.Minute_Of(from).value_or(CalendarMinute{}).Year),
-        last_year_(calendar.Minute_Of(to).value_or(CalendarMinute{}).Year) {}
+      : from_(from), to_(to), calendar_(calendar) {}
 
   void Add(const ReminderHits& hits, ReminderSource source, std::size_t index) {
     if (hits.step == 0) {
@@ -174,15 +171,13 @@ class RangeCollector {
     const std::int64_t low = std::max(from_, hits.low);
     const std::int64_t high = std::min(to_, hits.high);
     if (low > high) return;
-    const std::optional<std::int64_t> minute = calendar_.Next_Minute_Number(low, first_year_, last_year_);
+    const std::optional<std::int64_t> minute = calendar_.Next_Minute_Number(low);
     if (minute && *minute <= high) failures_.Meet(*minute, std::make_exception_ptr(RuntimeFailure(kDivisionByZero)));
   }
 
   std::int64_t from_;
   std::int64_t to_;
   ComparisonCalendar& calendar_;
-  std::int64_t first_year_;
-  std::int64_t last_year_;
   std::vector<DueReminder> due_;
   FirstFailure failures_;
 };

@@ -39,10 +39,9 @@ class ComparisonCalendar {
   std::int64_t Number_Of(const CalendarMinute& minute);
   // The minute whose number this is; nothing for a number in a gap between two years.
   std::optional<CalendarMinute> Minute_Of(std::int64_t number);
-  // The smallest number at least `number` that belongs to a minute of the years from
-  // `first_year` to `last_year`; nothing when there is none.
-  std::optional<std::int64_t> Next_Minute_Number(std::int64_t number, std::int64_t first_year,
-                                                 std::int64_t last_year);
+  // The smallest number at least `number` that belongs to a minute of the years 1 to
+  // 1,000,000; nothing when there is none.
+  std::optional<std::int64_t> Next_Minute_Number(std::int64_t number);
 
  private:
   // The numbers of 0:00 on the first of each month, and of the minute after the year's last.

@@ -178,23 +178,59 @@ TEST_F(DueReminders, APeriodOfZeroFailsAtTheFirstMinuteWithinItsRangeOnly) {
   EXPECT_EQ(Due_Reminders(files, number(9, 0), number(10, 29), calendar).size(), 1u);
   EXPECT_EQ(Failure_Of([&] { Due_Reminders(files, number(9, 0), number(10, 30), calendar); }), kDivisionByZero);
   EXPECT_EQ(Failure_Of([&] { Is_Task_Reminder_Due(files.Tasks[1], number(10, 30)); }), kDivisionByZero);
-  // Within the jump of 2200 the tick never looks, so it never divides.
-  files.Tasks = {Series(3, 2, "January 1, 2200", "00:00", "January 1, 2200", "00:00", 0)};
-  files.Tasks[0].Date_String[0] = "December 31, 2199";
-  files.Tasks[0].Time_String[0] = "23:59";
-  const std::int64_t before = calendar.Number_Of({2199, 12, 31, 23, 58});
-  EXPECT_EQ(Failure_Of([&] { Due_Reminders(files, before, before, calendar); }), 0);
-  EXPECT_EQ(Failure_Of([&] { Due_Reminders(files, before, before + 2, calendar); }), kDivisionByZero);
+  // Within the jump of 2200 the tick never looks, so it never divides: a series from the minute
+  // after the last of 2199 to the minute before the first of 2200, as the count has them.
+  ScheduleRecord gap = Series(3, 2, "After The Finish Time Of Task", "By 0 Days, 0 Hrs, 1 Min",
+                              "Before The Start Time of Task", "By 0 Days, 0 Hrs, 1 Min", 0);
+  gap.Finish_Month = "December";
+  gap.Finish_Date = "31";
+  gap.Finish_Century = 21;
+  gap.Finish_Year = 99;
+  gap.Finish_Hour = "23";
+  gap.Finish_Minute = "59";
+  gap.Start_Month = "January";
+  gap.Start_Date = "01";
+  gap.Start_Century = 22;
+  gap.Start_Year = 0;
+  gap.Start_Hour = "00";
+  gap.Start_Minute = "00";
+  files.Tasks = {gap};
+  const std::int64_t before = calendar.Number_Of({2199, 12, 31, 23, 59});
+  const std::int64_t after = calendar.Number_Of({2200, 1, 1, 0, 0});
+  EXPECT_EQ(Failure_Of([&] { Is_Task_Reminder_Due(gap, before); }), 0);
+  EXPECT_EQ(Failure_Of([&] { Is_Task_Reminder_Due(gap, after); }), 0);
+  EXPECT_EQ(Failure_Of([&] { Is_Task_Reminder_Due(gap, before + 1); }), kDivisionByZero);
+  EXPECT_EQ(Failure_Of([&] { Due_Reminders(files, before, after, calendar); }), 0);
 }
 
 TEST_F(DueReminders, AnUnreadableRecordFailsAsTheTickWould) {
   ReminderFiles files;
-  files.Tasks = {Task_With_Reminder(1, "Broken", "Smarch 5, 2001", "10:00")};
+  files.Tasks = {Task_With_Reminder(1, "Broken", "March 5, 2001", "1000")};
   ComparisonCalendar calendar;
   const std::int64_t at = calendar.Number_Of({2001, 3, 5, 10, 0});
   const int expected = Failure_Of([&] { Is_Task_Reminder_Due(files.Tasks[0], at); });
   EXPECT_NE(expected, 0);
   EXPECT_EQ(Failure_Of([&] { Due_Reminders(files, at, at, calendar); }), expected);
+}
+
+TEST(ComparisonCalendar, NumbersAreTheTicksAndMinutesComeBack) {
+  ComparisonCalendar calendar;
+  for (const std::int64_t year : {1LL, 1582LL, 1800LL, 1801LL, 1899LL, 1900LL, 2000LL, 2100LL, 2199LL, 2200LL, 2201LL,
+                                  9999LL, 1000000LL}) {
+    for (const CalendarMinute m : {CalendarMinute{year, 1, 1, 0, 0}, CalendarMinute{year, 2, 28, 23, 59},
+                                   CalendarMinute{year, 7, 15, 12, 30}, CalendarMinute{year, 12, 31, 23, 59}}) {
+      const std::int64_t number = calendar.Number_Of(m);
+      EXPECT_EQ(number, Tick_At(m).Current_Minutes) << year;
+      EXPECT_EQ(calendar.Minute_Of(number), m) << year;
+    }
+  }
+  // After a century year that the count takes for a leap year, a day of numbers belongs to no minute.
+  const std::int64_t new_year_1801 = calendar.Number_Of({1801, 1, 1, 0, 0});
+  EXPECT_EQ(new_year_1801 - calendar.Number_Of({1800, 12, 31, 23, 59}), 1 + 24 * 60);
+  EXPECT_FALSE(calendar.Minute_Of(new_year_1801 - 1));
+  EXPECT_EQ(calendar.Next_Minute_Number(new_year_1801 - 100), new_year_1801);
+  EXPECT_EQ(calendar.Next_Minute_Number(new_year_1801), new_year_1801);
+  EXPECT_EQ(calendar.Next_Minute_Number(calendar.Number_Of({1000000, 12, 31, 23, 59}) + 1), std::nullopt);
 }
 
 TEST(ReminderHits, ASeriesIsAProgressionCutToItsMoments) {
