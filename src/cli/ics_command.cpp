@@ -10,10 +10,12 @@
 #include <ctime>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "cli/commands.h"
+#include "engine/month_steps.h"
 #include "organizer/log_file.h"
 #include "organizer/task_list.h"
 #include "reminders/non_task_reminders.h"
@@ -52,19 +54,22 @@ void Warn(const std::string& text) {
 
 bool Fits_Ical(std::int64_t year) { return year >= kFirstIcalYear && year <= kLastIcalYear; }
 
-icaltimetype Floating_Time(std::int64_t year, std::int64_t month, std::int64_t day, std::int64_t hour,
-                           std::int64_t minute) {
-  icaltimetype time = icaltime_null_time();
-  time.year = static_cast<int>(year);
-  time.month = static_cast<int>(month);
-  time.day = static_cast<int>(day);
-  time.hour = static_cast<int>(hour);
-  time.minute = static_cast<int>(minute);
-  return time;
+// A time property from its content line. libical keeps the years up to 9999 that a content
+// line gives it, where a time it is handed field by field must lie before 3001.
+icalproperty* Time_Property(const std::string& name, std::int64_t year, int month, int day, int hour, int minute,
+                            bool utc) {
+  char value[32];
+  std::snprintf(value, sizeof value, "%04lld%02d%02dT%02d%02d00%s", static_cast<long long>(year), month, day, hour,
+                minute, utc ? "Z" : "");
+  icalproperty* property = icalproperty_new_from_string((name + ":" + value).c_str());
+  if (property == nullptr) throw std::runtime_error("libical refused the time " + name + ":" + value + ".");
+  return property;
 }
 
-icaltimetype Floating_Time(const organizer::TaskMoment& m) {
-  return Floating_Time(m.Year, m.Month, m.Date, m.Hour, m.Minute);
+// A time without a zone: the local time of wherever the calendar is read.
+icalproperty* Floating_Property(const std::string& name, const organizer::TaskMoment& m) {
+  return Time_Property(name, m.Year, static_cast<int>(m.Month), static_cast<int>(m.Date), static_cast<int>(m.Hour),
+                       static_cast<int>(m.Minute), false);
 }
 
 std::tm Broken_Down(const CalendarMinute& m) {
@@ -96,10 +101,10 @@ icalcomponent* Alarm_At(std::time_t instant, const std::string& description) {
   icalcomponent* alarm = icalcomponent_new_valarm();
   icalcomponent_add_property(alarm, icalproperty_new_action(ICAL_ACTION_DISPLAY));
   icalcomponent_add_property(alarm, icalproperty_new_description(description.c_str()));
-  icaltriggertype trigger{};
-  trigger.time = icaltime_from_timet_with_zone(instant, 0, icaltimezone_get_utc_timezone());
-  trigger.duration = icaldurationtype_null_duration();
-  icalcomponent_add_property(alarm, icalproperty_new_trigger(trigger));
+  std::tm utc{};
+  gmtime_r(&instant, &utc);
+  icalcomponent_add_property(alarm, Time_Property("TRIGGER;VALUE=DATE-TIME", utc.tm_year + 1900LL, utc.tm_mon + 1,
+                                                  utc.tm_mday, utc.tm_hour, utc.tm_min, true));
   return alarm;
 }
 
@@ -118,16 +123,17 @@ class Alarm_Maker {
   explicit Alarm_Maker(ComparisonCalendar& calendar)
       : calendar_(calendar),
         lowest_(calendar.Number_Of({kFirstIcalYear, 1, 1, 0, 0})),
-        highest_(calendar.Number_Of({kLastIcalYear, 12, 31, 23, 59})) {}
+        highest_(calendar.Number_Of({kLastIcalYear, 12, 31, 23, 59})),
+        last_minute_(calendar.Number_Of({engine::kLastYear, 12, 31, 23, 59})) {}
 
   void Add(icalcomponent* event, const ReminderHits& hits, const std::string& description, const std::string& what) {
     if (hits.step == 0) {
       Warn(what + ": a series with a period of 0 has no alarms.");
       return;
     }
-    if (reminders::detail::First_Hit(hits, INT64_MIN, lowest_ - 1) ||
-        reminders::detail::First_Hit(hits, highest_ + 1, INT64_MAX)) {
-      Warn(what + ": reminders before the year 1 or after the year 9999 are left out.");
+    // The clock shows no year before 1: only the years after 9999 are lost.
+    if (reminders::detail::First_Hit(hits, highest_ + 1, last_minute_)) {
+      Warn(what + ": its reminders after the year 9999 are left out.");
     }
     const std::optional<std::int64_t> first = reminders::detail::First_Hit(hits, lowest_, highest_);
     if (!first) return;
@@ -185,16 +191,17 @@ class Alarm_Maker {
   ComparisonCalendar& calendar_;
   std::int64_t lowest_;
   std::int64_t highest_;
+  std::int64_t last_minute_;
 };
 
-icalcomponent* New_Event(const std::string& uid, const std::string& summary, icaltimetype start) {
+icalcomponent* New_Event(const std::string& uid, const std::string& summary, icalproperty* start) {
   icalcomponent* event = icalcomponent_new_vevent();
   icalcomponent_add_property(event, icalproperty_new_uid(uid.c_str()));
   icalcomponent_add_property(
       event, icalproperty_new_dtstamp(icaltime_from_timet_with_zone(std::time(nullptr), 0,
                                                                     icaltimezone_get_utc_timezone())));
   icalcomponent_add_property(event, icalproperty_new_summary(summary.c_str()));
-  icalcomponent_add_property(event, icalproperty_new_dtstart(start));
+  icalcomponent_add_property(event, start);
   return event;
 }
 
@@ -223,10 +230,10 @@ void Add_Task(icalcomponent* calendar, const ScheduleRecord& task, Alarm_Maker& 
   const std::string name = task.Task_Name.text();
   icalcomponent* event =
       New_Event("task-" + task.Record_Number.text() + "-" + Digest(member + "\n" + name) + "@orrivane-cal", name,
-                Floating_Time(start));
+                Floating_Property("DTSTART", start));
   icalcomponent_add_component(calendar, event);
   // A task of one moment has no end of its own.
-  if (finish > start) icalcomponent_add_property(event, icalproperty_new_dtend(Floating_Time(finish)));
+  if (finish > start) icalcomponent_add_property(event, Floating_Property("DTEND", finish));
   const std::string description = Description_Of(task);
   if (!description.empty()) icalcomponent_add_property(event, icalproperty_new_description(description.c_str()));
   icalcomponent_add_property(event, icalproperty_new_categories(member.c_str()));
@@ -249,7 +256,7 @@ void Add_Note(icalcomponent* calendar, const reminders::NonTaskReminderRecord& n
   icalcomponent* event = New_Event(
       "note-" + note.NT_Record_Number.text() + "-" + Digest(title + "\n" + note.NT_Time_String.text()) +
           "@orrivane-cal",
-      title, Floating_Time(minute->Year, minute->Month, minute->Day, minute->Hour, minute->Minute));
+      title, Time_Property("DTSTART", minute->Year, minute->Month, minute->Day, minute->Hour, minute->Minute, false));
   icalcomponent_add_component(calendar, event);
   const std::string message = note.NT_Message.text();
   if (!message.empty()) icalcomponent_add_property(event, icalproperty_new_description(message.c_str()));

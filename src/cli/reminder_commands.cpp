@@ -1,6 +1,5 @@
 // minutes, remaining and due: the reminder timer's comparison number, its time-left sentence,
 // and the reminders it finds due, all from the reminders core.
-#include <cstdio>
 #include <string>
 
 #include "cli/command_error.h"

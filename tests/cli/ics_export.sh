@@ -18,14 +18,18 @@ cp "$here/data/organizer.sdl" "$log"
 printf '%s\n' 20 '"Far","","","March"' '"05",100,0,"10","00"' 0 '"March","05",100,0,"10","00"' '255,"Carl"' \
   '1,"At The Start Time of Task","N/A","March 5, 2001","10:00"' '1,0,0,0' \
   21 '"Busy","","","December"' '"31",21,99,"06","00"' 1 '"January","01",22,0,"06","00"' '255,"Carl"' \
-  '1,"December 31, 2199","06:00","January 1, 2200","06:00"' '2,"0","0","1"' >> "$log"
+  '1,"December 31, 2199","06:00","January 1, 2200","06:00"' '2,"0","0","1"' \
+  22 '"Edge","","","December"' '"31",99,99,"23","00"' 0 '"December","31",99,99,"23","00"' '255,"Carl"' \
+  '1,"December 31, 9999","23:00","January 1, 10000","01:00"' '2,"0","0","30"' >> "$log"
 
 warnings='warning: task 20 (Far): the year 10000 lies outside the years 1 to 9999 of iCalendar; the task is left out.
-warning: task 21 (Busy): only the first 1000 reminders are kept.'
+warning: task 21 (Busy): only the first 1000 reminders are kept.
+warning: task 22 (Edge): its reminders after the year 9999 are left out.'
 checks=$((checks + 1))
 status=0
 "$tool" ics "$log" --notes "$notes" > "$scratch/out.ics" 2> "$scratch/err" || status=$?
 "$tool" due --log "$log" --notes "$notes" 1/1/2001 "12:00:00 AM" 12/31/2200 "11:59:00 PM" > "$scratch/due"
+"$tool" due --log "$log" 12/31/9999 "12:00:00 AM" 12/31/9999 "11:59:00 PM" >> "$scratch/due"
 if [[ $status != 0 ]] || ! diff <(printf '%s\n' "$warnings") "$scratch/err" >&2 ||
   ! "$python" "$here/ics_reader.py" "$scratch/out.ics" "$scratch/due"; then
   echo "FAIL: orrivane-cal ics of the sample log" >&2
