@@ -1,6 +1,7 @@
 #include "reminders/reminder_hits.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 
 #include "core/runtime_failure.h"
@@ -21,6 +22,9 @@ constexpr std::int64_t kMinutesPerDay = 24 * kMinutesPerHour;
 constexpr std::int64_t kAverageYearMinutes = 525950;
 constexpr std::int64_t kBaseYear = 1900;
 constexpr std::int64_t kFirstYear = 1;
+
+// The most reminders a range may hold: some hundred megabytes of answers.
+constexpr std::uint64_t kMostDueReminders = 20'000'000;
 
 constexpr int kSingleReminder = 1;
 constexpr int kSeriesForward = 2;
@@ -146,6 +150,7 @@ class RangeCollector {
       Add_Division_By_Zero(hits);
       return;
     }
+    Count(hits);
     For_Each_Hit(hits, from_, to_, [&](std::int64_t number) {
       if (calendar_.Minute_Of(number)) due_.push_back({number, source, index});
       return true;
@@ -166,6 +171,18 @@ class RangeCollector {
   }
 
  private:
+  // The hits are counted before they are listed: a list that no memory holds is refused at once
+  // rather than after a long wait.
+  void Count(const ReminderHits& hits) {
+    const std::optional<std::int64_t> first = detail::First_Hit(hits, from_, to_);
+    if (!first) return;
+    counted_ += static_cast<std::uint64_t>(std::min(to_, hits.high) - *first) / hits.step + 1;
+    if (counted_ > kMostDueReminders) {
+      throw std::length_error("more than " + std::to_string(kMostDueReminders) +
+                              " reminders fall due in the range; ask for a shorter one.");
+    }
+  }
+
   // A series of period 0 fails at the first minute of the range that lies within it.
   void Add_Division_By_Zero(const ReminderHits& hits) {
     const std::int64_t low = std::max(from_, hits.low);
@@ -179,6 +196,7 @@ class RangeCollector {
   std::int64_t to_;
   ComparisonCalendar& calendar_;
   std::vector<DueReminder> due_;
+  std::uint64_t counted_ = 0;
   FirstFailure failures_;
 };
 

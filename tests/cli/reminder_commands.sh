@@ -131,6 +131,14 @@ answers '' due --log "$scratch/zero.sdl" 3/5/2001 "10:29:00 AM"
 answers '' due --log "$scratch/zero.sdl" 3/5/2001 "9:00:00 AM" 3/5/2001 "10:29:00 AM"
 refuses "error: Run-time error '11': Division by zero" due --log "$scratch/zero.sdl" 3/5/2001 "10:30:00 AM"
 refuses "error: Run-time error '11': Division by zero" due --log "$scratch/zero.sdl" 3/5/2001 "9:00:00 AM" 3/6/2001 "9:00:00 AM"
+# A series of every minute from the year 1 to the year 1,000,000: a few minutes of it, and the
+# whole refused at once rather than listed.
+printf '%s\n' 1 '"Every minute","","","March"' '"05",20,1,"10","00"' 0 '"March","05",20,1,"10","00"' '255,"Anna"' \
+  '1,"January 1, 1","00:00","December 31, 1000000","23:59"' '2,0,0,1' > "$scratch/every.sdl"
+answers "2001-01-01 00:00${tab}task 1 - Every minute
+2001-01-01 00:01${tab}task 1 - Every minute" due --log "$scratch/every.sdl" 1/1/2001 "12:00:00 AM" 1/1/2001 "12:01:00 AM"
+refuses 'error: Error: more than 20000000 reminders fall due in the range; ask for a shorter one.' \
+  due --log "$scratch/every.sdl" 1/1/1 "12:00:00 AM" 12/31/1000000 "11:59:00 PM"
 # A truncated reminder file.
 printf '%s\n' 4 1 '"Backup"' > "$scratch/short.dat"
 refuses "error: Run-time error '62': Input past end of file" due --notes "$scratch/short.dat" 3/5/2001 "10:25:00 AM"
