@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -90,6 +91,19 @@ std::vector<DueReminder> Tick_By_Tick(const ReminderFiles& files, const std::str
   }
 }
 
+// A task's start or finish: month, date, century, year, hour and minute.
+using Field = Value ScheduleRecord::*;
+using MomentFields = std::array<Field, 6>;
+constexpr MomentFields kStart{&ScheduleRecord::Start_Month,   &ScheduleRecord::Start_Date,
+                              &ScheduleRecord::Start_Century, &ScheduleRecord::Start_Year,
+                              &ScheduleRecord::Start_Hour,    &ScheduleRecord::Start_Minute};
+constexpr MomentFields kFinish{&ScheduleRecord::Finish_Month,   &ScheduleRecord::Finish_Date,
+                               &ScheduleRecord::Finish_Century, &ScheduleRecord::Finish_Year,
+                               &ScheduleRecord::Finish_Hour,    &ScheduleRecord::Finish_Minute};
+void Set_Moment(ScheduleRecord& r, const MomentFields& fields, const std::array<Value, 6>& values) {
+  for (std::size_t i = 0; i < fields.size(); ++i) r.*fields[i] = values[i];
+}
+
 struct DueCase {
   std::vector<ScheduleRecord> tasks;
   std::vector<NonTaskReminderRecord> notes;
@@ -129,10 +143,7 @@ TEST_F(DueReminders, AgreeWithTheTickAcrossMidnightAndTheEndOfAMonth) {
              Series(6, 2, "February 28, 2001", "23:00", "February 28, 2001", "23:58", 29),  // its last is no hit
              Series(7, 3, "March 1, 2001", "00:01", "March 1, 2001", "00:01", 5)};
   ScheduleRecord tied = Task_With_Reminder(8, "Tied", "Before The Start Time of Task", "By 0 Days, 1 Hrs, 15 Min");
-  tied.Start_Month = "March";
-  tied.Start_Date = "01";
-  tied.Start_Hour = "01";
-  tied.Start_Minute = "10";
+  Set_Moment(tied, kStart, {"March", "01", 20, 1, "01", "10"});
   c.tasks.push_back(tied);  // 23:55 the day before
   c.notes = {Message_At(4, "Backup", "", "00:00, March 1, 2001"), Message_At(5, "Off", "", "00:00, March 1, 2001", 0),
              Message_At(9, "Midnight", "", "23:59, February 28, 2001")};
@@ -182,18 +193,8 @@ TEST_F(DueReminders, APeriodOfZeroFailsAtTheFirstMinuteWithinItsRangeOnly) {
   // after the last of 2199 to the minute before the first of 2200, as the count has them.
   ScheduleRecord gap = Series(3, 2, "After The Finish Time Of Task", "By 0 Days, 0 Hrs, 1 Min",
                               "Before The Start Time of Task", "By 0 Days, 0 Hrs, 1 Min", 0);
-  gap.Finish_Month = "December";
-  gap.Finish_Date = "31";
-  gap.Finish_Century = 21;
-  gap.Finish_Year = 99;
-  gap.Finish_Hour = "23";
-  gap.Finish_Minute = "59";
-  gap.Start_Month = "January";
-  gap.Start_Date = "01";
-  gap.Start_Century = 22;
-  gap.Start_Year = 0;
-  gap.Start_Hour = "00";
-  gap.Start_Minute = "00";
+  Set_Moment(gap, kFinish, {"December", "31", 21, 99, "23", "59"});
+  Set_Moment(gap, kStart, {"January", "01", 22, 0, "00", "00"});
   files.Tasks = {gap};
   const std::int64_t before = calendar.Number_Of({2199, 12, 31, 23, 59});
   const std::int64_t after = calendar.Number_Of({2200, 1, 1, 0, 0});
