@@ -70,3 +70,16 @@ function(orrivane_cli_sources out_commands out_main)
   set(${out_commands} "${commands}" PARENT_SCOPE)
   set(${out_main} "${main}" PARENT_SCOPE)
 endfunction()
+
+# orrivane_link_cli_libraries(<target>...)
+# What the commands of orrivane-cal link beside the core: libical, which writes the iCalendar
+# export (Debian package libical-dev).
+function(orrivane_link_cli_libraries)
+  if(NOT TARGET PkgConfig::LIBICAL)
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(LIBICAL REQUIRED IMPORTED_TARGET GLOBAL libical)
+  endif()
+  foreach(target IN LISTS ARGN)
+    target_link_libraries(${target} PRIVATE PkgConfig::LIBICAL)
+  endforeach()
+endfunction()

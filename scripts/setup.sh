@@ -7,6 +7,7 @@ ORRIVANE_PACKAGES=(
   build-essential cmake pkg-config
   qt6-base-dev qt6-base-dev-tools libqt6printsupport6 libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev
+  libical-dev python3-icalendar
   xvfb xauth
   desktop-file-utils appstream
 )

@@ -32,7 +32,11 @@ constexpr Option_Spec kStyleOption[] = {{"--julian", false}};
 constexpr Option_Spec kHolidayOptions[] = {{"--holiday", true}};
 constexpr Option_Spec kElapsedOptions[] = {{"--julian", false}, {"--total", false}, {"--units", true}};
 
-constexpr std::array<Command_Spec, 9> kCommands{{
+constexpr Option_Spec kDueOptions[] = {{"--log", true}, {"--notes", true}};
+constexpr Option_Spec kTaskOptions[] = {{"--after", true}, {"--before", true}, {"--start", false}, {"--finish", false}};
+constexpr Option_Spec kIcsOptions[] = {{"--notes", true}};
+
+constexpr std::array<Command_Spec, 14> kCommands{{
     // name        usage                                                     in help  options          operands  handler
     {"weekday",   "weekday  [--julian] MONTH DAY YEAR",                      true,  kStyleOption,    3, 3, Run_Weekday},
     {"month",     "month    [--julian] MONTH YEAR",                          true,  kStyleOption,    2, 2, Run_Month},
@@ -40,6 +44,13 @@ constexpr std::array<Command_Spec, 9> kCommands{{
     {"holidays",  "holidays [--holiday NAME] YEAR [TO_YEAR]",                true,  kHolidayOptions, 1, 2, Run_Holidays},
     {"elapsed",   "elapsed  [--julian] [--total | --units UNITS] FROM TO",   true,  kElapsedOptions, 2, 2, Run_Elapsed},
     {"calc",      "calc     OPERATION A B",                                  true,  {},              3, 3, Run_Calc},
+    {"minutes",   "minutes  DATE TIME",                                     true,  {},              2, 2, Run_Minutes},
+    {"remaining", "remaining DATE TIME NOW_DATE NOW_TIME",                   true,  {},              4, 4, Run_Remaining},
+    {"due",       "due      [--log FILE] [--notes FILE] NOW_DATE NOW_TIME [UNTIL_DATE UNTIL_TIME]",
+                                                                             true,  kDueOptions,     2, 4, Run_Due},
+    {"tasks",     "tasks    FILE NAME [--after BOUND] [--before BOUND] [--start] [--finish]",
+                                                                             true,  kTaskOptions,    2, 2, Run_Tasks},
+    {"ics",       "ics      FILE [--notes FILE]",                            true,  kIcsOptions,     1, 1, Run_Ics},
     {"batch",     "batch",                                                   true,  {},              0, 0, Run_Batch},
     {"--help",    "--help | --version",                                      true,  {},              0, 0, Run_Help},
     {"--version", "--help | --version",                                      false, {},              0, 0, Run_Version},

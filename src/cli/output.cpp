@@ -11,6 +11,11 @@ void Output::Line(std::string_view text) {
   if (buffer_.size() >= kFlushAt) Flush();
 }
 
+void Output::Text(std::string_view text) {
+  buffer_.append(text);
+  if (buffer_.size() >= kFlushAt) Flush();
+}
+
 void Output::Flush() {
   if (!failure_) {
     errno = 0;

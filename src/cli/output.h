@@ -18,6 +18,8 @@ class Output {
 
   // The text and a line feed.
   void Line(std::string_view text);
+  // The text as it stands, its line ends its own.
+  void Text(std::string_view text);
   void Flush();
 
   // Why the output could not be written ("No space left on device"); nothing while it could.

@@ -12,6 +12,11 @@ usage='Usage:
   orrivane-cal holidays [--holiday NAME] YEAR [TO_YEAR]
   orrivane-cal elapsed  [--julian] [--total | --units UNITS] FROM TO
   orrivane-cal calc     OPERATION A B
+  orrivane-cal minutes  DATE TIME
+  orrivane-cal remaining DATE TIME NOW_DATE NOW_TIME
+  orrivane-cal due      [--log FILE] [--notes FILE] NOW_DATE NOW_TIME [UNTIL_DATE UNTIL_TIME]
+  orrivane-cal tasks    FILE NAME [--after BOUND] [--before BOUND] [--start] [--finish]
+  orrivane-cal ics      FILE [--notes FILE]
   orrivane-cal batch
   orrivane-cal --help | --version'
 
