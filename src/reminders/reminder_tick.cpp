@@ -197,6 +197,27 @@ std::optional<NonTaskReminderFilling> Non_Task_Reminder_Half(const std::string& 
   return filling;
 }
 
+Value RecordNumberList::Store(std::string_view Action_To_Perform, const Value& Element, const Value& value) {
+  if (Action_To_Perform == "Reset") {
+    numbers_.resize(1);
+    return "-";
+  }
+  if (Action_To_Perform == "Append") {
+    numbers_.push_back(value);
+    return value;
+  }
+  if (Action_To_Perform == "Put") return At(Element) = value;
+  if (Action_To_Perform == "Get") return At(Element);
+  if (Action_To_Perform == "Get Number Of Elements") return static_cast<int>(numbers_.size() - 1);
+  return {};
+}
+
+Value& RecordNumberList::At(const Value& Element) {
+  const std::int64_t index = Element.whole();
+  if (index < 0 || index >= static_cast<std::int64_t>(numbers_.size())) throw RuntimeFailure(kSubscriptOutOfRange);
+  return numbers_[static_cast<std::size_t>(index)];
+}
+
 Value Number_Before_First_Blank(const std::string& entry) {
   return Value(text::Left(entry, text::InStr(entry, " ") - 1));
 }

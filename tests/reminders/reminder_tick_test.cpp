@@ -269,3 +269,25 @@ TEST_F(TickHalves, AChosenMessageIsTheLastOfTheFileWhenItsRecordHasGone) {
 
 }  // namespace
 }  // namespace orrivane::reminders
+
+namespace orrivane::reminders {
+namespace {
+
+TEST(RecordNumberList, KeepsTheDueNumbersFromElementOne) {
+  RecordNumberList list;
+  EXPECT_EQ(list.Store("Get Number Of Elements", {}, {}), Value(0));
+  EXPECT_EQ(list.Store("Append", {}, 7), Value(7));
+  EXPECT_EQ(list.Store("Append", {}, 9), Value(9));
+  EXPECT_EQ(list.Store("Get Number Of Elements", {}, {}), Value(2));
+  EXPECT_EQ(list.Store("Get", 2, {}), Value(9));
+  EXPECT_EQ(list.Store("Put", 1, 4), Value(4));
+  EXPECT_EQ(list.Store("Get", 1, {}), Value(4));
+  EXPECT_TRUE(list.Store("Get", 0, {}).is_empty());
+  EXPECT_EQ(testing::Failure_Of([&] { list.Store("Get", 3, {}); }), kSubscriptOutOfRange);
+  EXPECT_TRUE(list.Store("Count", {}, {}).is_empty());
+  EXPECT_EQ(list.Store("Reset", {}, {}).text(), "-");
+  EXPECT_EQ(list.Store("Get Number Of Elements", {}, {}), Value(0));
+}
+
+}  // namespace
+}  // namespace orrivane::reminders
