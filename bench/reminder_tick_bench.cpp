@@ -8,6 +8,7 @@
 
 #include "large_log.h"
 #include "core/sequential_file.h"
+#include "organizer/log_file.h"
 #include "organizer/schedule_record.h"
 #include "reminders/non_task_reminders.h"
 #include "reminders/reminder_tick.h"
@@ -73,6 +74,25 @@ void BM_TickWithTasksDue(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_TickWithTasksDue)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace orrivane
+
+namespace orrivane {
+namespace {
+
+// For comparison: reading TRemin.tmp alone, record by record, as every tick does.
+void BM_ReadTaskReminderFile(benchmark::State& state) {
+  const ReminderFiles& files = Files();
+  for (auto _ : state) {
+    organizer::ScheduleRecord record;
+    organizer::LogReader file(files.tasks);
+    int records = 0;
+    while (file.Next(record)) ++records;
+    benchmark::DoNotOptimize(records);
+  }
+}
+BENCHMARK(BM_ReadTaskReminderFile)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace orrivane
