@@ -24,45 +24,49 @@ constexpr int kMargin = 12;
 constexpr int kWidth = 420;
 constexpr int kInner = kWidth - 2 * kMargin;
 constexpr int kRowHeight = 20;
-constexpr int kNameLeft = kMargin + 104;
+constexpr int kNameLeft = kMargin + 124;
 constexpr int kNameWidth = kWidth - kMargin - kNameLeft;
 constexpr int kButtonWidth = 110;
 constexpr int kButtonHeight = 28;
 constexpr int kHeight = 272;
 
-struct LabelPlace {
-  QLabel* frmReminderWindow::* member;
+// A control of the window, its name, caption and place.
+template <class C>
+struct ControlPlace {
+  C* frmReminderWindow::* member;
   const char* name;
   const char* caption;
   QRect place;
 };
-constexpr LabelPlace kLabels[] = {
+constexpr ControlPlace<QLabel> kLabels[] = {
     {&frmReminderWindow::Label5, "Label5", "This reminder is for the following task\\event:",
      QRect(kMargin, 10, kInner, kRowHeight)},
     {&frmReminderWindow::lblTaskName, "lblTaskName", "", QRect(kMargin, 32, kInner, 24)},
-    {&frmReminderWindow::Label1, "Label1", "For:", QRect(kMargin, 72, 100, kRowHeight)},
+    {&frmReminderWindow::Label1, "Label1", "For:", QRect(kMargin, 72, 120, kRowHeight)},
     {&frmReminderWindow::lblFor, "lblFor", "", QRect(kNameLeft, 72, kNameWidth, kRowHeight)},
-    {&frmReminderWindow::Label2, "Label2", "Start Time:", QRect(kMargin, 96, 100, kRowHeight)},
+    {&frmReminderWindow::Label2, "Label2", "Start Time:", QRect(kMargin, 96, 120, kRowHeight)},
     {&frmReminderWindow::lblStartTime, "lblStartTime", "", QRect(kNameLeft, 96, kNameWidth, kRowHeight)},
-    {&frmReminderWindow::Label3, "Label3", "Ending Time:", QRect(kMargin, 120, 100, kRowHeight)},
+    {&frmReminderWindow::Label3, "Label3", "Ending Time:", QRect(kMargin, 120, 120, kRowHeight)},
     {&frmReminderWindow::lblEndingTime, "lblEndingTime", "", QRect(kNameLeft, 120, kNameWidth, kRowHeight)},
     {&frmReminderWindow::lblTimeLeft, "lblTimeLeft", "", QRect(kMargin, 148, kInner, 44)},
-    {&frmReminderWindow::Label4, "Label4", "Time of Message:", QRect(kMargin, 198, 100, kRowHeight)},
+    {&frmReminderWindow::Label4, "Label4", "Time of Message:", QRect(kMargin, 198, 120, kRowHeight)},
     {&frmReminderWindow::lblTimeOfMessage, "lblTimeOfMessage", "", QRect(kNameLeft, 198, kNameWidth, kRowHeight)},
 };
 
-struct ButtonPlace {
-  QPushButton* frmReminderWindow::* member;
-  const char* name;
-  const char* caption;
-  QRect place;
-};
-constexpr ButtonPlace kButtons[] = {
+constexpr ControlPlace<QPushButton> kButtons[] = {
     {&frmReminderWindow::cmdMoreDetails, "cmdMoreDetails", "View Task",
      QRect(kMargin, kHeight - kMargin - kButtonHeight, kButtonWidth, kButtonHeight)},
     {&frmReminderWindow::cmdClose, "cmdClose", "Close",
      QRect(kWidth - kMargin - kButtonWidth, kHeight - kMargin - kButtonHeight, kButtonWidth, kButtonHeight)},
 };
+
+template <class C, std::size_t N>
+void Make_Controls(frmReminderWindow& window, const ControlPlace<C> (&table)[N]) {
+  for (const ControlPlace<C>& c : table) {
+    window.*c.member = controls::Make<C>(&window, c.name, c.caption);
+    (window.*c.member)->setGeometry(c.place);
+  }
+}
 
 const QRect kTaskListPlace(kMargin, 32, kInner, 26);
 const QRect kDividerPlace(kMargin, 62, kInner, 2);
@@ -78,10 +82,7 @@ frmReminderWindow::frmReminderWindow() {
 }
 
 void frmReminderWindow::Build_Controls() {
-  for (const LabelPlace& l : kLabels) {
-    this->*l.member = controls::Make_Label(this, l.name, l.caption);
-    (this->*l.member)->setGeometry(l.place);
-  }
+  Make_Controls(*this, kLabels);
   QFont name_font = lblTaskName->font();
   name_font.setBold(true);
   name_font.setPointSize(name_font.pointSize() + 2);
@@ -95,10 +96,7 @@ void frmReminderWindow::Build_Controls() {
   lneTaskNameDivider->setFrameShape(QFrame::HLine);
   lneTaskNameDivider->setGeometry(kDividerPlace);
 
-  for (const ButtonPlace& b : kButtons) {
-    this->*b.member = controls::Make_Button(this, b.name, b.caption);
-    (this->*b.member)->setGeometry(b.place);
-  }
+  Make_Controls(*this, kButtons);
 }
 
 void frmReminderWindow::Connect_Controls() {
