@@ -65,7 +65,7 @@ inline organizer::ScheduleRecord Task_With_Reminder(int n) {
   return r;
 }
 
-// Writes TRemin.tmp as a log of kTasks tasks with reminders on leaves it, to `path`.
+// Writes the kTasks tasks with their reminders on to `path`, as TRemin.tmp holds them.
 inline void Write_Large_Task_Reminder_File(const std::string& path) {
   SequentialWriter file(path);
   for (int n = 1; n <= kTasks; ++n) organizer::Schedule_File("Write", file, Task_With_Reminder(n));
