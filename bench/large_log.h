@@ -42,6 +42,35 @@ inline organizer::ScheduleRecord Task(int n) {
   return r;
 }
 
+// Task n with its reminder on, one of four kinds in turn: a single reminder, a series counted
+// forward, a series counted backward, and a moment tied to the task's start.
+inline organizer::ScheduleRecord Task_With_Reminder(int n) {
+  organizer::ScheduleRecord r = Task(n);
+  r.Reminder_Status = 1;
+  // The reminder stands an hour before the task, so that few fall due in one minute.
+  r.Date_String[0] = r.Start_Month.text() + " " + std::to_string(1 + n % 28) + ", 2001";
+  r.Time_String[0] = std::to_string((n + 23) % 24) + ":00";
+  constexpr int kKinds[] = {1, 2, 3, 1};
+  r.Reminder_Interval = kKinds[n % 4];
+  r.Date_String[1] = "March 6, 2001";
+  if (n % 4 == 3) {
+    r.Date_String[0] = "Before The Start Time of Task";
+    r.Time_String[0] = "By 0 Days, 1 Hrs, 15 Min";
+  }
+  if (n % 4 == 1 || n % 4 == 2) {
+    r.Interval_Days = "0";
+    r.Interval_Hours = "2";
+    r.Interval_Minutes = "30";
+  }
+  return r;
+}
+
+// Writes the kTasks tasks with their reminders on to `path`, as TRemin.tmp holds them.
+inline void Write_Large_Task_Reminder_File(const std::string& path) {
+  SequentialWriter file(path);
+  for (int n = 1; n <= kTasks; ++n) organizer::Schedule_File("Write", file, Task_With_Reminder(n));
+}
+
 // Writes the log to `path`, replacing what stands there.
 inline void Write_Large_Log(const std::string& path) {
   SequentialWriter log(path);

@@ -16,6 +16,10 @@
 #include "core/value.h"
 #include "engine/calendar_engine.h"
 #include "holidays/holiday_rules.h"
+#include "organizer/schedule_record.h"
+#include "platform/platform.h"
+#include "reminders/in_use_flags.h"
+#include "reminders/reminder_tick.h"
 
 namespace orrivane {
 
@@ -100,6 +104,22 @@ class Form1 : public QMainWindow {
   void Terminate_This_Program(std::string_view PlaceOfOrigin);
   void Form_Activate();
 
+  // ---- Reminders ---------------------------------------------------------------------------
+  // Starts tmrReminders, which ticks every five seconds until the end of the program, whatever
+  // window is open or hidden.
+  void Start_Reminder_Timer();
+  // One tick: the due task reminders and the due reminders of no task, each half under its
+  // file's flag; a tick that finds TRemin.tmp in use does nothing.
+  void tmrReminders_Timer();
+  // The keepers of the two in-use flags: "Evaluate" answers the flag, any other verb sets it.
+  bool TRemin_Is_In_Use(bool Value_, std::string_view Action_To_Perform);
+  bool NTRemin_Is_In_Use(bool Value_, std::string_view Action_To_Perform);
+  // The flags themselves, for the holds of the procedures that touch the files.
+  reminders::InUseFlag& Task_Reminder_Flag() { return tremin_in_use_; }
+  reminders::InUseFlag& Non_Task_Reminder_Flag() { return ntremin_in_use_; }
+  // The record Form1 read last: the current record of the moments tied to a task.
+  const organizer::ScheduleRecord& Current_Record() const { return current_record_; }
+
   // The style on show, read back from the heading: "Gregorian", "Julian" or "".
   std::string Style_On_Show() const;
   // The month on show, read back from lblStoreMonth and lblStoreYear.
@@ -123,6 +143,14 @@ class Form1 : public QMainWindow {
   Value cal_style_;
   Value date_string_;
   holidays::Holiday_Data_Keeper holiday_table_;
+
+  platform::TimerId tmrReminders_ = 0;
+  reminders::InUseFlag tremin_in_use_;
+  reminders::InUseFlag ntremin_in_use_;
+  // The minute of the hour at which each reminder window last opened; none at the start.
+  reminders::ReminderMinute Last_Task_Reminder_Minute;
+  reminders::ReminderMinute Last_NT_Reminder_Minute;
+  organizer::ScheduleRecord current_record_;
 };
 
 }  // namespace orrivane

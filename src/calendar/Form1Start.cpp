@@ -50,6 +50,7 @@ void Form1::Start_Program() {
   Window<frmLargeCalendar>().show();
   Window<frmAbout>().show();
   organizer::Empty_Working_Log();
+  Start_Reminder_Timer();
   Display_Todays_Date();
   Window<frmScheduler_Reminder>().Save_File_Prompt_Flag = 0;
   const std::string today = Machine().System_Date();

@@ -14,6 +14,8 @@
 #include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
+#include "reminders/frmReminderWindow.h"
+#include "reminders/reminder_tick.h"
 
 namespace orrivane {
 
@@ -82,6 +84,16 @@ std::optional<Value> Chart_Cell_Owner(frmScheduler_Reminder& organizer, const Va
   return std::nullopt;
 }
 
+// The task of the reminder window: the chosen entry of its list where the list stands, else the
+// task it shows alone.
+std::optional<Value> Reminder_Window_Task(frmScheduler_Reminder&, const Value&) {
+  frmReminderWindow& reminder = Window<frmReminderWindow>();
+  if (reminder.cboTaskList->isVisibleTo(&reminder)) {
+    return reminders::Number_Before_First_Blank(controls::Text_Of(reminder.cboTaskList));
+  }
+  return reminder.Store_Current_Task_Record_Number("No Record Number Supplied");
+}
+
 struct NumberRoute {
   std::string_view origin;
   NumberSource source;
@@ -93,6 +105,7 @@ constexpr NumberRoute kNumberRoutes[] = {
     {organizer::kCmdViewTaskInformationClick, Selected_Task_List_Entry},
     {organizer::kCboAppointmentsClick, Chosen_Appointment},
     {organizer::kLblChartHistoryListClick, Chart_Cell_Owner},
+    {organizer::kReminderWindowMoreDetails, Reminder_Window_Task},
 };
 
 }  // namespace

@@ -13,7 +13,12 @@ namespace orrivane::platform {
 
 namespace {
 Platform* installed = nullptr;
-}
+int failures_being_told = 0;
+}  // namespace
+
+FailureBeingTold::FailureBeingTold() { ++failures_being_told; }
+FailureBeingTold::~FailureBeingTold() { --failures_being_told; }
+bool FailureBeingTold::Now() { return failures_being_told > 0; }
 
 Platform& Machine() {
   if (installed == nullptr) throw std::logic_error("no platform installed");
@@ -27,7 +32,7 @@ void Require_Timer_Interval(int interval_ms) {
 }
 
 void TimerTick::Run() {
-  if (running_) return;
+  if (running_ || FailureBeingTold::Now()) return;
   running_ = true;
   // Reset also when the tick fails, so that the failure does not silence the timer.
   struct Finished {

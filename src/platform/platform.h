@@ -95,7 +95,7 @@ void Require_Timer_Interval(int interval_ms);
 
 // The tick of a repeating timer, run so that it never runs inside itself: a run that comes while
 // the previous one is under way (the tick showed a modal window, whose event loop lets the timer
-// fire again) is skipped.
+// fire again) is skipped, and so is one that comes while a failure is being told.
 class TimerTick {
  public:
   explicit TimerTick(std::function<void()> tick) : tick_(std::move(tick)) {}
@@ -104,6 +104,17 @@ class TimerTick {
  private:
   std::function<void()> tick_;
   bool running_ = false;
+};
+
+// Marks the time an unhandled failure is being told, which ends the program: its message box
+// runs an event loop, and no tick of any timer runs inside it.
+class FailureBeingTold {
+ public:
+  FailureBeingTold();
+  ~FailureBeingTold();
+  FailureBeingTold(const FailureBeingTold&) = delete;
+  FailureBeingTold& operator=(const FailureBeingTold&) = delete;
+  static bool Now();
 };
 
 // The platform in use. The program installs the real one at start.

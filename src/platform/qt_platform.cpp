@@ -172,6 +172,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 
 void Report_Unhandled_Failure(int number, const std::string& description) {
   Platform& machine = Machine();
+  const FailureBeingTold telling;
   machine.Message_Box("Run-time error '" + std::to_string(number) + "':\n\n" + description, vbOKOnly, vbCritical,
                       "Orrivane");
   machine.End_Process(1);

@@ -45,7 +45,14 @@ std::int64_t Minus(std::int64_t a, std::int64_t b) {
   return difference;
 }
 
-std::int64_t Month_Number(const Value& month) { return engine::Define_Month(month, "Get Month Number").whole(); }
+// A full English name, as the reminders write a month, is looked up at once; every other form
+// goes through Define_Month, which answers the same number for that name.
+std::int64_t Month_Number(const Value& month) {
+  if (month.is_text()) {
+    if (const int number = engine::Full_Month_Number(month.text())) return number;
+  }
+  return engine::Define_Month(month, "Get Month Number").whole();
+}
 
 // ---- Moments tied to the task ---------------------------------------------------------------
 

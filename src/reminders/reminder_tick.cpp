@@ -47,11 +47,9 @@ bool Same_Number(const Value& a, const Value& b) { return a.number() == b.number
 
 // ---- The task window's two forms -------------------------------------------------------------------
 
-TaskReminderFilling Single_Task_Filling(const std::string& path, const std::vector<Value>& due,
-                                        const TickMoment& moment, ScheduleRecord& record) {
-  organizer::LogReader file(path);
-  while (file.Next(record) && !Stands_In(due, record.Record_Number)) {
-  }
+// The single-task form of the first record of the file whose number stands among the due ones.
+TaskReminderFilling Single_Task_Filling(const ScheduleRecord& record, const TickMoment& moment,
+                                        const ScheduleRecord& Current_Record) {
   TaskReminderFilling filling;
   filling.Caption = kOneReminderCaption + record.Task_Name.text();
   filling.Task_Name = record.Task_Name.text();
@@ -60,27 +58,79 @@ TaskReminderFilling Single_Task_Filling(const std::string& path, const std::vect
                                          record.Start_Date, record.Start_Century, record.Start_Year);
   filling.Ending_Time = Task_Moment_Label(record.Finish_Hour, record.Finish_Minute, record.Finish_Month,
                                           record.Finish_Date, record.Finish_Century, record.Finish_Year);
-  filling.Time_Left =
-      Create_Time_Remaining_String(record.Start_Century, record.Start_Year, record.Start_Month, record.Start_Date,
-                                   record.Start_Hour, record.Start_Minute, moment.System_Date, moment.System_Time, record);
+  filling.Time_Left = Create_Time_Remaining_String(record.Start_Century, record.Start_Year, record.Start_Month,
+                                                   record.Start_Date, record.Start_Hour, record.Start_Minute,
+                                                   moment.System_Date, moment.System_Time, Current_Record);
   filling.Current_Task_Record_Number = record.Record_Number;
   return filling;
 }
 
-TaskReminderFilling Several_Tasks_Filling(const std::string& path, const std::vector<Value>& due,
-                                          ScheduleRecord& record) {
+// The several-tasks form: for each record of the file, in file order, an entry for each due
+// number that equals its own.
+TaskReminderFilling Several_Tasks_Filling(const std::vector<std::string>& entries, std::size_t count) {
   TaskReminderFilling filling;
   filling.Several = true;
-  organizer::LogReader file(path);
-  while (file.Next(record)) {
-    for (const Value& number : due) {
-      if (number == record.Record_Number) filling.Task_List.push_back(Entry_Of(record.Record_Number, record.Task_Name));
-    }
-  }
-  filling.Caption = std::to_string(due.size()) + kSeveralRemindersCaption;
+  filling.Task_List = entries;
+  filling.Caption = std::to_string(count) + kSeveralRemindersCaption;
   filling.For = filling.Start_Time = filling.Ending_Time = kNotApplicable;
   filling.Time_Left = kChooseATask;
   return filling;
+}
+
+// Both forms read from the file again, for a file in which a due number stands more than once.
+TaskReminderFilling Filling_From_File(const std::string& path, const std::vector<Value>& due,
+                                      const TickMoment& moment, ScheduleRecord& record) {
+  organizer::LogReader file(path);
+  if (due.size() == 1) {
+    while (file.Next(record) && !Stands_In(due, record.Record_Number)) {
+    }
+    return Single_Task_Filling(record, moment, record);
+  }
+  std::vector<std::string> entries;
+  while (file.Next(record)) {
+    for (const Value& number : due) {
+      if (number == record.Record_Number) entries.push_back(Entry_Of(record.Record_Number, record.Task_Name));
+    }
+  }
+  return Several_Tasks_Filling(entries, due.size());
+}
+
+// What the first reading of TRemin.tmp keeps for the window: the due records, and the numbers of
+// all records, so that a second reading is needed only where a due number stands twice.
+struct FirstReading {
+  std::vector<ScheduleRecord> due_records;
+  std::vector<double> numbers;
+  bool numbers_plain = true;  // every Record_Number a number
+
+  void Note(const ScheduleRecord& record, bool due) {
+    if (record.Record_Number.is_number()) {
+      numbers.push_back(record.Record_Number.number());
+    } else {
+      numbers_plain = false;
+    }
+    if (due) due_records.push_back(record);
+  }
+  // Whether each due number stands once in the file, so that the due records are the records
+  // the window names.
+  bool Due_Numbers_Unique() {
+    if (!numbers_plain) return false;
+    std::sort(numbers.begin(), numbers.end());
+    return std::all_of(due_records.begin(), due_records.end(), [this](const ScheduleRecord& r) {
+      const auto same = std::equal_range(numbers.begin(), numbers.end(), r.Record_Number.number());
+      return same.second - same.first == 1;
+    });
+  }
+};
+
+TaskReminderFilling Filling_From_Due_Records(const FirstReading& reading, const TickMoment& moment,
+                                             ScheduleRecord& Current_Record) {
+  if (reading.due_records.size() == 1) {
+    Current_Record = reading.due_records.front();
+    return Single_Task_Filling(Current_Record, moment, Current_Record);
+  }
+  std::vector<std::string> entries;
+  for (const ScheduleRecord& r : reading.due_records) entries.push_back(Entry_Of(r.Record_Number, r.Task_Name));
+  return Several_Tasks_Filling(entries, reading.due_records.size());
 }
 
 }  // namespace
@@ -132,17 +182,20 @@ std::string Time_Of_Task_Message(const TickMoment& moment) {
 TaskReminderHalf Task_Reminder_Half(const std::string& path, const TickMoment& moment,
                                     ReminderMinute& Last_Task_Reminder_Minute, ScheduleRecord& Current_Record) {
   TaskReminderHalf half;
+  FirstReading reading;
   {
     organizer::LogReader file(path);
     while (file.Next(Current_Record)) {
-      if (Is_Task_Reminder_Due(Current_Record, moment.Current_Minutes)) half.Due.push_back(Current_Record.Record_Number);
+      const bool due = Is_Task_Reminder_Due(Current_Record, moment.Current_Minutes);
+      if (due) half.Due.push_back(Current_Record.Record_Number);
+      reading.Note(Current_Record, due);
     }
   }
   if (half.Due.empty()) return half;
   half.Show_Reminder = Show_In_This_Minute(Last_Task_Reminder_Minute, moment.Minute);
   if (!half.Show_Reminder) return half;
-  half.Window = half.Due.size() == 1 ? Single_Task_Filling(path, half.Due, moment, Current_Record)
-                                     : Several_Tasks_Filling(path, half.Due, Current_Record);
+  half.Window = reading.Due_Numbers_Unique() ? Filling_From_Due_Records(reading, moment, Current_Record)
+                                             : Filling_From_File(path, half.Due, moment, Current_Record);
   half.Window->Time_Of_Message = Time_Of_Task_Message(moment);
   return half;
 }
@@ -195,6 +248,27 @@ std::optional<NonTaskReminderFilling> Non_Task_Reminder_Half(const std::string& 
   filling.Date_Of_Message = cut.date;
   filling.Time_Of_Message = Displayed_Non_Task_Time(cut.time);
   return filling;
+}
+
+Value RecordNumberList::Store(std::string_view Action_To_Perform, const Value& Element, const Value& value) {
+  if (Action_To_Perform == "Reset") {
+    numbers_.resize(1);
+    return "-";
+  }
+  if (Action_To_Perform == "Append") {
+    numbers_.push_back(value);
+    return value;
+  }
+  if (Action_To_Perform == "Put") return At(Element) = value;
+  if (Action_To_Perform == "Get") return At(Element);
+  if (Action_To_Perform == "Get Number Of Elements") return static_cast<int>(numbers_.size() - 1);
+  return {};
+}
+
+Value& RecordNumberList::At(const Value& Element) {
+  const std::int64_t index = Element.whole();
+  if (index < 0 || index >= static_cast<std::int64_t>(numbers_.size())) throw RuntimeFailure(kSubscriptOutOfRange);
+  return numbers_[static_cast<std::size_t>(index)];
 }
 
 Value Number_Before_First_Blank(const std::string& entry) {

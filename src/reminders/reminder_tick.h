@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/value.h"
@@ -96,6 +97,20 @@ std::optional<NonTaskReminderFilling> Non_Task_Reminder_Half(const std::string& 
                                                              bool Show_Reminder,
                                                              ReminderMinute& Last_NT_Reminder_Minute,
                                                              const organizer::ScheduleRecord& Current_Record);
+
+// The keeper of the due tasks' record numbers: a list whose element 0 is never used and whose
+// upper bound is the count. "Reset" empties it and answers "-", "Append" adds the value after
+// the last and answers it, "Put" stores the value at an index and "Get" answers the one there (an
+// index beyond the bounds is the failure 9), "Get Number Of Elements" answers the upper bound;
+// another verb answers nothing.
+class RecordNumberList {
+ public:
+  Value Store(std::string_view Action_To_Perform, const Value& Element, const Value& value);
+
+ private:
+  Value& At(const Value& Element);
+  std::vector<Value> numbers_{Value()};
+};
 
 // ---- The windows' lists ------------------------------------------------------------------------
 

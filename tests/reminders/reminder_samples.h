@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/sequential_file.h"
+#include "organizer/log_samples.h"
 #include "organizer/schedule_record.h"
 #include "reminders/non_task_reminders.h"
 
@@ -14,35 +15,14 @@ namespace orrivane::reminders::samples {
 // `time` ("March 5, 2001", "14:30").
 inline organizer::ScheduleRecord Task_With_Reminder(int number, const std::string& name, const std::string& date,
                                                    const std::string& time) {
-  organizer::ScheduleRecord r;
+  organizer::ScheduleRecord r = organizer::samples::Dentist_Task();
   r.Record_Number = number;
   r.Task_Name = name;
-  r.Task_Description = "Checkup";
-  r.Task_Comments = "";
-  r.Start_Month = "March";
-  r.Start_Date = "05";
-  r.Start_Century = 20;
-  r.Start_Year = 1;
-  r.Start_Hour = "14";
-  r.Start_Minute = "30";
   r.Time_Range_Flag = 1;
-  r.Finish_Month = "March";
-  r.Finish_Date = "05";
-  r.Finish_Century = 20;
-  r.Finish_Year = 1;
   r.Finish_Hour = "15";
   r.Finish_Minute = "45";
-  r.Color_Code = 16711680;
-  r.Person_Name = "Anna";
-  r.Reminder_Status = 1;
-  r.Date_String[0] = date;
-  r.Time_String[0] = time;
-  r.Date_String[1] = date;
-  r.Time_String[1] = time;
-  r.Reminder_Interval = 1;
-  r.Interval_Days = 0;
-  r.Interval_Hours = 0;
-  r.Interval_Minutes = 0;
+  r.Date_String[0] = r.Date_String[1] = date;
+  r.Time_String[0] = r.Time_String[1] = time;
   return r;
 }
 

@@ -269,3 +269,69 @@ TEST_F(TickHalves, AChosenMessageIsTheLastOfTheFileWhenItsRecordHasGone) {
 
 }  // namespace
 }  // namespace orrivane::reminders
+
+namespace orrivane::reminders {
+namespace {
+
+TEST(RecordNumberList, KeepsTheDueNumbersFromElementOne) {
+  RecordNumberList list;
+  EXPECT_EQ(list.Store("Get Number Of Elements", {}, {}), Value(0));
+  EXPECT_EQ(list.Store("Append", {}, 7), Value(7));
+  EXPECT_EQ(list.Store("Append", {}, 9), Value(9));
+  EXPECT_EQ(list.Store("Get Number Of Elements", {}, {}), Value(2));
+  EXPECT_EQ(list.Store("Get", 2, {}), Value(9));
+  EXPECT_EQ(list.Store("Put", 1, 4), Value(4));
+  EXPECT_EQ(list.Store("Get", 1, {}), Value(4));
+  EXPECT_TRUE(list.Store("Get", 0, {}).is_empty());
+  EXPECT_EQ(testing::Failure_Of([&] { list.Store("Get", 3, {}); }), kSubscriptOutOfRange);
+  EXPECT_TRUE(list.Store("Count", {}, {}).is_empty());
+  EXPECT_EQ(list.Store("Reset", {}, {}).text(), "-");
+  EXPECT_EQ(list.Store("Get Number Of Elements", {}, {}), Value(0));
+}
+
+}  // namespace
+}  // namespace orrivane::reminders
+
+namespace orrivane::reminders {
+namespace {
+
+class DuplicateNumbers : public ::testing::Test {
+ protected:
+  TaskReminderHalf Half(const std::vector<organizer::ScheduleRecord>& records) {
+    samples::Write_Tasks(folder.file("TRemin.tmp"), records);
+    ReminderMinute last;
+    return Task_Reminder_Half(folder.file("TRemin.tmp"), Tick_Moment("3/5/2001", "2:00:00 PM", {}), last, current);
+  }
+  testing::TempFolder folder;
+  organizer::ScheduleRecord current;
+};
+
+TEST_F(DuplicateNumbers, TheSingleFormShowsTheFirstRecordOfTheDueNumber) {
+  const TaskReminderHalf half = Half({samples::Task_With_Reminder(5, "Earlier", "March 5, 2001", "09:00"),
+                                      samples::Task_With_Reminder(5, "Due", "March 5, 2001", "14:00")});
+  ASSERT_TRUE(half.Window.has_value());
+  EXPECT_EQ(half.Window->Caption, "Reminder: Earlier");
+  EXPECT_EQ(current.Task_Name.text(), "Earlier");
+}
+
+TEST_F(DuplicateNumbers, TheSeveralFormListsEachRecordOnceForEachEqualDueNumber) {
+  const TaskReminderHalf half = Half({samples::Task_With_Reminder(5, "A", "March 5, 2001", "14:00"),
+                                      samples::Task_With_Reminder(6, "C", "March 5, 2001", "09:00"),
+                                      samples::Task_With_Reminder(5, "B", "March 5, 2001", "14:00")});
+  ASSERT_TRUE(half.Window.has_value());
+  EXPECT_EQ(half.Window->Caption, "2 Reminders");
+  EXPECT_EQ(half.Window->Task_List, (std::vector<std::string>{"5 - A", "5 - A", "5 - B", "5 - B"}));
+  EXPECT_EQ(current.Task_Name.text(), "B");
+}
+
+TEST_F(DuplicateNumbers, AFileOfPlainNumbersNeedsNoSecondReading) {
+  const TaskReminderHalf half = Half({samples::Task_With_Reminder(1, "A", "March 5, 2001", "14:00"),
+                                      samples::Task_With_Reminder(2, "C", "March 5, 2001", "09:00"),
+                                      samples::Task_With_Reminder(3, "B", "March 5, 2001", "14:00")});
+  ASSERT_TRUE(half.Window.has_value());
+  EXPECT_EQ(half.Window->Task_List, (std::vector<std::string>{"1 - A", "3 - B"}));
+  EXPECT_EQ(current.Task_Name.text(), "B");
+}
+
+}  // namespace
+}  // namespace orrivane::reminders

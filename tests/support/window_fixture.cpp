@@ -60,6 +60,27 @@ bool Reachable(const QAction& action) {
          });
 }
 
+// Runs an action as an event of the application, so that its failures reach the event dispatch
+// as those of the machine's own timers do.
+class DispatchedAction : public QObject {
+ public:
+  explicit DispatchedAction(std::function<void()> action) : action_(std::move(action)) {}
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::User) return QObject::event(event);
+    action_();
+    return true;
+  }
+
+ private:
+  std::function<void()> action_;
+};
+
+void Dispatch(std::function<void()> action) {
+  DispatchedAction receiver(std::move(action));
+  QEvent event(QEvent::User);
+  QCoreApplication::sendEvent(&receiver, &event);
+}
+
 }  // namespace
 
 void FakePlatform::Set_Now(int year, int month, int day, int hour, int minute, int second) {
@@ -122,11 +143,13 @@ void FakePlatform::Run_Ticks_Due_Until(long long moment) {
     now_ = next->due;
     next->due += next->interval_ms;
     const std::shared_ptr<platform::TimerTick> tick = next->tick;  // the tick may stop its timer
-    tick->Run();
+    Dispatch([&tick] { tick->Run(); });
   }
 }
 
 FakePlatform::Timer* FakePlatform::Next_Due(long long moment) {
+  // A program that has ended runs no more ticks.
+  if (exit_code_) return nullptr;
   Timer* first = nullptr;
   for (auto& [id, timer] : timers_) {
     if (timer.due <= moment && (first == nullptr || timer.due < first->due)) first = &timer;

@@ -42,7 +42,8 @@ class FakePlatform : public platform::Platform {
  public:
   // The clock. Months and days count from 1, the hour from 0 to 23. Moving it forward runs the
   // ticks of the program's timers that fall due on the way, in order, each with the clock at
-  // its own moment; moving it back runs none, and every timer keeps the wait it had left.
+  // its own moment, through the event dispatch (whose failures end the program), and none after
+  // the end; moving it back runs none, and every timer keeps the wait it had left.
   void Set_Now(int year, int month, int day, int hour = 12, int minute = 0, int second = 0);
   void Advance_Milliseconds(long long milliseconds);
   void Advance_Seconds(long long seconds) { Advance_Milliseconds(seconds * 1000); }
