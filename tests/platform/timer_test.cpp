@@ -45,8 +45,23 @@ TEST_F(FakeTimerTest, TicksComeAsTheClockMovesEachWithTheClockAtItsOwnMoment) {
   EXPECT_EQ(ticks.size(), 3u);
   machine().Advance_Milliseconds(1);
   EXPECT_EQ(ticks.back(), "2:30:04 PM");
-  machine().Set_Now(2024, 3, 15, 14, 30, 6);
+  machine().Advance_Seconds(2);
   EXPECT_EQ(ticks, (Times{"2:30:01 PM", "2:30:02 PM", "2:30:03 PM", "2:30:04 PM", "2:30:05 PM", "2:30:06 PM"}));
+}
+
+TEST_F(FakeTimerTest, SettingTheClockRunsNoTickAndEachTimerKeepsTheWaitItHadLeft) {
+  Times ticks;
+  Record_Ticks(5000, ticks);
+  machine().Advance_Seconds(2);
+  machine().Set_Now(2025, 1, 1, 9, 0, 0);
+  EXPECT_TRUE(ticks.empty());
+  machine().Advance_Milliseconds(2999);
+  EXPECT_TRUE(ticks.empty());
+  machine().Advance_Milliseconds(1);
+  EXPECT_EQ(ticks, (Times{"9:00:03 AM"}));
+  machine().Set_Now(2020, 1, 1, 9, 0, 0);
+  machine().Advance_Seconds(5);
+  EXPECT_EQ(ticks, (Times{"9:00:03 AM", "9:00:05 AM"}));
 }
 
 TEST_F(FakeTimerTest, AWindowOpenedByATickIsOpenFromThatMomentOn) {

@@ -84,7 +84,16 @@ void Dispatch(std::function<void()> action) {
 }  // namespace
 
 void FakePlatform::Set_Now(int year, int month, int day, int hour, int minute, int second) {
-  Move_Clock_To(Days_From_Civil(year, month, day) * kMillisecondsPerDay + ((hour * 60LL + minute) * 60 + second) * 1000);
+  Set_Clock_To(Days_From_Civil(year, month, day) * kMillisecondsPerDay + ((hour * 60LL + minute) * 60 + second) * 1000);
+}
+
+void FakePlatform::Set_Clock_To(long long moment) {
+  // The machine's timers count their waits apart from the clock, so each keeps the wait it had
+  // left, whichever way the clock was set.
+  const long long shift = moment - now_;
+  for (auto& [id, timer] : timers_) timer.due += shift;
+  if (moving_to_) *moving_to_ += shift;
+  now_ = moment;
 }
 
 void FakePlatform::Advance_Milliseconds(long long milliseconds) { Move_Clock_To(now_ + milliseconds); }
@@ -113,12 +122,7 @@ void FakePlatform::Stop_Timer(platform::TimerId timer) { timers_.erase(timer); }
 
 void FakePlatform::Move_Clock_To(long long moment) {
   if (moment < now_) {
-    // Back: each timer keeps the wait it had left, as the machine's timers do when its clock is
-    // set back.
-    const long long back = moment - now_;
-    for (auto& [id, timer] : timers_) timer.due += back;
-    if (moving_to_) *moving_to_ += back;
-    now_ = moment;
+    Set_Clock_To(moment);  // time never runs back: the clock was set
     return;
   }
   if (moving_to_) {

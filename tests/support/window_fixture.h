@@ -40,10 +40,11 @@ struct PrintJob {
 
 class FakePlatform : public platform::Platform {
  public:
-  // The clock. Months and days count from 1, the hour from 0 to 23. Moving it forward runs the
-  // ticks of the program's timers that fall due on the way, in order, each with the clock at
-  // its own moment, through the event dispatch (whose failures end the program), and none after
-  // the end; moving it back runs none, and every timer keeps the wait it had left.
+  // The clock. Months and days count from 1, the hour from 0 to 23. Setting it (Set_Now), either
+  // way, runs no tick: every timer keeps the wait it had left, as the machine's timers do.
+  // Advancing it is time passing: it runs the ticks of the program's timers that fall due on
+  // the way, in order, each with the clock at its own moment, through the event dispatch (whose
+  // failures end the program), and none after the end.
   void Set_Now(int year, int month, int day, int hour = 12, int minute = 0, int second = 0);
   void Advance_Milliseconds(long long milliseconds);
   void Advance_Seconds(long long seconds) { Advance_Milliseconds(seconds * 1000); }
@@ -94,6 +95,7 @@ class FakePlatform : public platform::Platform {
     std::shared_ptr<platform::TimerTick> tick;
   };
   void Move_Clock_To(long long moment);
+  void Set_Clock_To(long long moment);
   void Run_Ticks_Due_Until(long long moment);
   // The running timer whose next tick comes first, not later than `moment`; the one started
   // first among ticks of the same moment.
