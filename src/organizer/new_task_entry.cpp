@@ -300,8 +300,7 @@ std::array<Value, ReminderVariables::kNames.size()> Reminder_Defaults(std::strin
   std::string hour = Military_Hour(time).text();
   if (hour.size() == 1) hour = "0" + hour;
   const std::string now = hour + ":" + Parse_System_Time(time, "Minute").text();
-  constexpr int kOneReminderOnly = 1;
-  return {Value(today), Value(now), Value(today), Value(now), Value(kOneReminderOnly), Value(0), Value(0), Value(0)};
+  return {Value(today), Value(now), Value(today), Value(now), Value(kOnlyOneReminder), Value(0), Value(0), Value(0)};
 }
 
 }  // namespace orrivane::organizer

@@ -16,6 +16,8 @@
 
 #include "core/message.h"
 #include "core/value.h"
+#include "organizer/moment_boxes.h"
+#include "organizer/schedule_record.h"
 #include "organizer/time_period_selection.h"
 
 namespace orrivane::organizer {
@@ -42,17 +44,8 @@ inline constexpr TwoDigitRange kMinuteBoxRange{0, 59};
 
 // ---- A fixed moment -----------------------------------------------------------------------------
 
-// The six boxes of a moment as texts, "" for an empty box: the month's full name, the day
-// ("01" to "31"), the century, the year within it, the 24-hour hour, the minute.
-struct MomentEntries {
-  std::string Month;
-  std::string Date;
-  std::string Century;
-  std::string Year;
-  std::string Hour;
-  std::string Minute;
-  friend bool operator==(const MomentEntries&, const MomentEntries&) = default;
-};
+// The six boxes of a moment, the month by its full name.
+using MomentEntries = MomentBoxes;
 
 // The present as the boxes would hold it, from one reading of the clock (the system date
 // "3/5/2001" and time "2:05:09 PM"): the month's name, the day as the date has it, the year
@@ -121,11 +114,6 @@ std::string Count_Text(const std::string& text);
 // The days of a period: the days box and the hundreds-of-days box summed, an empty one counting
 // 0: "50" and "1800" give "1850".
 std::string Interval_Days_Text(const std::string& days, const std::string& hundreds_of_days);
-
-// The kinds of reminder, as Reminder_Interval holds them.
-inline constexpr int kOnlyOneReminder = 1;
-inline constexpr int kSeriesFromFirstMoment = 2;
-inline constexpr int kSeriesToLastMoment = 3;
 
 // Whether a reminder of that kind lacks its period: a series whose minutes, hours and days all
 // count 0. A single reminder needs none.

@@ -51,6 +51,12 @@ struct ScheduleRecord {
 
 inline constexpr std::size_t kScheduleRecordFields = 28;
 
+// The kinds of reminder, as Reminder_Interval holds them: one message at one moment, a series
+// counted forward from its first moment, a series counted backward from its last.
+inline constexpr int kOnlyOneReminder = 1;
+inline constexpr int kSeriesFromFirstMoment = 2;
+inline constexpr int kSeriesToLastMoment = 3;
+
 // The 28 fields in the order the file holds them.
 std::array<Value*, kScheduleRecordFields> Fields_In_File_Order(ScheduleRecord& record);
 std::array<const Value*, kScheduleRecordFields> Fields_In_File_Order(const ScheduleRecord& record);

@@ -16,6 +16,7 @@
 
 #include "core/message.h"
 #include "core/value.h"
+#include "organizer/moment_boxes.h"
 #include "organizer/schedule_record.h"
 
 namespace orrivane::organizer {
@@ -100,16 +101,8 @@ std::vector<std::string> Member_Task_Entries(const std::string& log_path, const 
 std::string Present_Hour_Bound(const std::string& System_Date, const std::string& System_Time,
                                const std::string& Minute);
 
-// The six boxes of one side of the filter window as texts, "" where a box is empty: the
-// three-letter month, the date, the century, the year in the century, the hour and the minute.
-struct FilterBoxes {
-  std::string Month;
-  std::string Date;
-  std::string Century;
-  std::string Year;
-  std::string Hour;
-  std::string Minute;
-};
+// The six boxes of one side of the filter window, the month by its three letters.
+using FilterBoxes = MomentBoxes;
 
 // The sides of the filter window: index 0 After, 1 Before.
 enum FilterSide : int { kAfterSide = 0, kBeforeSide = 1 };

@@ -26,9 +26,6 @@ constexpr std::int64_t kFirstYear = 1;
 // The most reminders a range may hold: some hundred megabytes of answers.
 constexpr std::uint64_t kMostDueReminders = 20'000'000;
 
-constexpr int kSingleReminder = 1;
-constexpr int kSeriesForward = 2;
-constexpr int kSeriesBackward = 3;
 
 // The comparison number of 0:00 on the first of a month, as the tick computes a fixed moment.
 std::int64_t First_Of_Month_Number(std::int64_t year, int month) {
@@ -102,13 +99,19 @@ ReminderHits One_Off_Hits(std::int64_t number) { return {number, number, number,
 ReminderHits Task_Reminder_Hits(const ScheduleRecord& record) {
   const std::int64_t first =
       Timer_Comparison_Date(record.Date_String[0], record.Time_String[0], kOutputStyleDate, record);
-  if (record.Reminder_Interval == Value(kSingleReminder)) return One_Off_Hits(first);
+  if (record.Reminder_Interval == Value(organizer::kOnlyOneReminder)) return One_Off_Hits(first);
   const std::int64_t last =
       Timer_Comparison_Date(record.Date_String[1], record.Time_String[1], kOutputStyleDate, record);
-  const bool forward = record.Reminder_Interval == Value(kSeriesForward);
-  if (!forward && record.Reminder_Interval != Value(kSeriesBackward)) return {};
+  const bool forward = record.Reminder_Interval == Value(organizer::kSeriesFromFirstMoment);
+  if (!forward && record.Reminder_Interval != Value(organizer::kSeriesToLastMoment)) return {};
   // A distance is a multiple of a negative period when it is one of its magnitude.
   return {forward ? first : last, first, last, Magnitude(Series_Interval(record))};
+}
+
+bool Is_Hit(const ReminderHits& hits, std::int64_t number) {
+  if (number < hits.low || number > hits.high) return false;
+  if (hits.step == 0) throw RuntimeFailure(kDivisionByZero);
+  return detail::First_Hit(hits, number, number).has_value();
 }
 
 std::optional<std::int64_t> detail::First_Hit(const ReminderHits& hits, std::int64_t from, std::int64_t to) {

@@ -71,6 +71,10 @@ ReminderHits Task_Reminder_Hits(const organizer::ScheduleRecord& record);
 // The hits of a moment that fires once.
 ReminderHits One_Off_Hits(std::int64_t number);
 
+// Whether `number` is one of `hits`: within low and high and a whole number of steps from the
+// anchor. A step of 0 there is the failure 11, as the timer's division by it is.
+bool Is_Hit(const ReminderHits& hits, std::int64_t number);
+
 // Hands `visit` each number of `hits` from `from` to `to`, in ascending order, for as long as
 // it answers true.
 template <class Visit>

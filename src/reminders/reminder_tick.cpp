@@ -9,6 +9,7 @@
 #include "organizer/log_file.h"
 #include "reminders/non_task_reminders.h"
 #include "reminders/reminder_comparison.h"
+#include "reminders/reminder_hits.h"
 
 namespace orrivane::reminders {
 
@@ -16,20 +17,12 @@ namespace {
 
 using organizer::ScheduleRecord;
 
-constexpr int kSingleReminder = 1;
-constexpr int kSeriesForward = 2;
-constexpr int kSeriesBackward = 3;
 
 constexpr char kNotApplicable[] = "N\\A";
 constexpr char kChooseATask[] = "Select a task from the list above.";
 constexpr char kChooseAMessage[] = "Please select a reminder message from the list.";
 constexpr char kOneReminderCaption[] = "Reminder: ";
 constexpr char kSeveralRemindersCaption[] = " Reminders";
-
-// The period of a series in minutes. Beyond 64 bits the failure 6.
-std::int64_t Series_Interval(const ScheduleRecord& r) {
-  return Value(r.Interval_Days.number() * 1440 + r.Interval_Hours.number() * 60 + r.Interval_Minutes.number()).whole();
-}
 
 // A date as the windows show it: one leading "0" gone.
 std::string Without_Leading_Zero(const Value& date) {
@@ -148,18 +141,7 @@ bool Show_In_This_Minute(ReminderMinute& Last_Reminder_Minute, const Value& Minu
 }
 
 bool Is_Task_Reminder_Due(const ScheduleRecord& record, std::int64_t Current_Minutes) {
-  const std::int64_t first =
-      Timer_Comparison_Date(record.Date_String[0], record.Time_String[0], kOutputStyleDate, record);
-  if (record.Reminder_Interval == Value(kSingleReminder)) return Current_Minutes == first;
-  const std::int64_t last =
-      Timer_Comparison_Date(record.Date_String[1], record.Time_String[1], kOutputStyleDate, record);
-  const bool forward = record.Reminder_Interval == Value(kSeriesForward);
-  if (!forward && record.Reminder_Interval != Value(kSeriesBackward)) return false;
-  const std::int64_t interval = Series_Interval(record);
-  if (Current_Minutes < first || Current_Minutes > last) return false;
-  if (interval == 0) throw RuntimeFailure(kDivisionByZero);
-  const std::int64_t distance = forward ? Current_Minutes - first : last - Current_Minutes;
-  return distance % interval == 0;
+  return Is_Hit(Task_Reminder_Hits(record), Current_Minutes);
 }
 
 std::string Task_Moment_Label(const Value& Hour, const Value& Minute, const Value& Month, const Value& Date,
