@@ -201,9 +201,9 @@ void frmTaskInformation::Set_Record_Changed_Flag(bool Flag) { Record_Changed_Fla
 void frmTaskInformation::cmdChange1_Click() { organizer::Open_Set_Reminder_Window(organizer::kTaskInformationWindow); }
 
 void frmTaskInformation::Close_Record() {
-  // A changed record asks about saving first; that comes with editing a task here, and until
-  // then nothing sets the flag.
-  if (Record_Changed_Flag) return;
+  // A record changed here (its reminder set anew) cannot be saved from this window until
+  // editing a task comes, so there is nothing to ask yet: Close hides the window as its close
+  // box does, and the change goes with the next task shown.
   hide();
 }
 

@@ -442,6 +442,15 @@ TEST_F(frmSetReminderTest, SettingFromTheTaskInformationChangesItsRecord) {
   EXPECT_EQ(Caption(information().lblInterval), "3 Days, 2 Hrs, 30 Min");
 }
 
+TEST_F(frmSetReminderTest, TheTaskInformationStillClosesAfterItsReminderWasSet) {
+  Open_From_Task_Information(Task_With_Series());
+  Click_Reminder_Option("optOnlyOneReminder");
+  Trigger(reminder(), "cmdOK");
+  ASSERT_TRUE(information().Record_Changed());
+  Trigger(information(), "cmdClose");
+  EXPECT_FALSE(information().isVisible());
+}
+
 TEST_F(frmSetReminderTest, CloseLeavesTheTaskInformationUnchanged) {
   Open_From_Task_Information(Task_With_Series());
   Click_Reminder_Option("optOnlyOneReminder");
