@@ -24,15 +24,13 @@ void Join(std::string& joined, const std::string& part) {
 
 struct KindTexts {
   int kind;
-  const char* method;
+  std::string_view method;
   const char* interval;  // nullptr: the interval in words
 };
-// The captions as the window has always shown them, the second with its short form of
-// "Specified".
 constexpr KindTexts kKinds[] = {
-    {1, "Only One Reminder", "No Interval In Effect"},
-    {2, "Series-From Spec. Time", nullptr},
-    {3, "Series-To Specified Time", nullptr},
+    {kOnlyOneReminder, kOnlyOneReminderMethod, "No Interval In Effect"},
+    {kSeriesFromFirstMoment, kSeriesFromSpecifiedTimeMethod, nullptr},
+    {kSeriesToLastMoment, kSeriesToSpecifiedTimeMethod, nullptr},
 };
 
 }  // namespace
@@ -59,7 +57,7 @@ std::optional<ReminderLabels> Set_Reminder_Labels(const Value& Value_, const Val
                                                   const Value& Interval_Hours, const Value& Interval_Minutes) {
   for (const KindTexts& texts : kKinds) {
     if (Value_ != Value(texts.kind)) continue;
-    return ReminderLabels{texts.method, texts.interval != nullptr
+    return ReminderLabels{std::string(texts.method), texts.interval != nullptr
                                             ? std::string(texts.interval)
                                             : Reminder_Interval_Text(Interval_Days, Interval_Hours, Interval_Minutes)};
   }

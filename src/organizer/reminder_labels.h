@@ -24,6 +24,12 @@ struct ReminderLabels {
 std::string Reminder_Interval_Text(const Value& Interval_Days, const Value& Interval_Hours,
                                    const Value& Interval_Minutes);
 
+// The captions of the three kinds of reminder as lblMethod shows them. The second shortens
+// "Specified" to "Spec." to fit the label; the window has always shown it so.
+inline constexpr std::string_view kOnlyOneReminderMethod = "Only One Reminder";
+inline constexpr std::string_view kSeriesFromSpecifiedTimeMethod = "Series-From Spec. Time";
+inline constexpr std::string_view kSeriesToSpecifiedTimeMethod = "Series-To Specified Time";
+
 // The texts for the kind of reminder `Value_` (a Reminder_Interval): the caption of the kind
 // (one reminder only, a series from the first moment, a series up to the last), with "No
 // Interval In Effect" for the first kind and the interval in words for the two series. Another

@@ -191,7 +191,7 @@ TEST_F(frmSetRemToTaskTimeTest, AMomentTiedToTheTaskIsKeptForTheTaskInformation)
   Trigger(reminder(), "cmdOK");
   EXPECT_EQ(Task_Information("Date_String(0)"), Value("At The Finish Time Of Task"));
   EXPECT_EQ(Task_Information("Time_String(0)"), Value("N/A"));
-  EXPECT_EQ(Caption(information().lblMethod), "Only One Reminder");
+  EXPECT_EQ(Caption(information().lblMethod), organizer::kOnlyOneReminderMethod);
 }
 
 }  // namespace

@@ -438,7 +438,7 @@ TEST_F(frmSetReminderTest, SettingFromTheTaskInformationChangesItsRecord) {
   EXPECT_EQ(Task_Information_Values(), (std::vector<std::string>{"March 1, 2001", "08:00", "March 5, 2001", "14:00",
                                                                  "3", "3", "2", "30"}));
   EXPECT_TRUE(information().Record_Changed());
-  EXPECT_EQ(Caption(information().lblMethod), "Series-To Specified Time");
+  EXPECT_EQ(Caption(information().lblMethod), organizer::kSeriesToSpecifiedTimeMethod);
   EXPECT_EQ(Caption(information().lblInterval), "3 Days, 2 Hrs, 30 Min");
 }
 
@@ -456,7 +456,7 @@ TEST_F(frmSetReminderTest, CloseLeavesTheTaskInformationUnchanged) {
   Click_Reminder_Option("optOnlyOneReminder");
   Trigger(reminder(), "cmdClose");
   EXPECT_FALSE(information().Record_Changed());
-  EXPECT_EQ(Caption(information().lblMethod), "Series-From Spec. Time");
+  EXPECT_EQ(Caption(information().lblMethod), organizer::kSeriesFromSpecifiedTimeMethod);
   EXPECT_EQ(Task_Information("Reminder_Interval"), Value(2));
 }
 

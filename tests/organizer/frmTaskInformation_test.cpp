@@ -74,7 +74,7 @@ TEST_F(frmTaskInformationTest, ShowsTheTaskInItsLabels) {
 TEST_F(frmTaskInformationTest, OneReminderOn) {
   View(With_Reminder(Ranged_Task(), 1, 1, 0, 0, 0));
   EXPECT_EQ(information().cmdStatus->text().toStdString(), "ON");
-  EXPECT_EQ(Caption(information().lblMethod), "Only One Reminder");
+  EXPECT_EQ(Caption(information().lblMethod), organizer::kOnlyOneReminderMethod);
   EXPECT_EQ(Caption(information().lblInterval), "No Interval In Effect");
   Expect_Reminder_Labels_Enabled(true);
 }
@@ -82,14 +82,14 @@ TEST_F(frmTaskInformationTest, OneReminderOn) {
 TEST_F(frmTaskInformationTest, ASeriesFromTheFirstMomentSwitchedOff) {
   View(With_Reminder(Ranged_Task(), 0, 2, 0, 0, 5));
   EXPECT_EQ(information().cmdStatus->text().toStdString(), "OFF");
-  EXPECT_EQ(Caption(information().lblMethod), "Series-From Spec. Time");
+  EXPECT_EQ(Caption(information().lblMethod), organizer::kSeriesFromSpecifiedTimeMethod);
   EXPECT_EQ(Caption(information().lblInterval), "5 Min");
   Expect_Reminder_Labels_Enabled(false);
 }
 
 TEST_F(frmTaskInformationTest, ASeriesToTheLastMoment) {
   View(With_Reminder(Ranged_Task(), 1, 3, 10, 2, 0));
-  EXPECT_EQ(Caption(information().lblMethod), "Series-To Specified Time");
+  EXPECT_EQ(Caption(information().lblMethod), organizer::kSeriesToSpecifiedTimeMethod);
   EXPECT_EQ(Caption(information().lblInterval), "More than 10 Days");
   Expect_Reminder_Labels_Enabled(true);
 }
@@ -127,7 +127,7 @@ TEST_F(frmTaskInformationTest, AnotherTaskReplacesEverything) {
   EXPECT_EQ(Caption(information().lblFromDate), "July 04, 2024");
   EXPECT_EQ(Caption(information().lblToTime), "09:00");
   EXPECT_EQ(information().cmdStatus->text().toStdString(), "OFF");
-  EXPECT_EQ(Caption(information().lblMethod), "Only One Reminder");
+  EXPECT_EQ(Caption(information().lblMethod), organizer::kOnlyOneReminderMethod);
   Expect_Reminder_Labels_Enabled(false);
 }
 
