@@ -297,9 +297,7 @@ std::array<Value, ReminderVariables::kNames.size()> Reminder_Defaults(std::strin
   const std::string today = engine::Define_Month(Parse_Date(date, "Month").plus_zero(), "Get Month Name").text() +
                             " " + Parse_Date(date, "Date").text() + ", " + Parse_Date(date, "Year").text();
   const Value time(system_time);
-  std::string hour = Military_Hour(time).text();
-  if (hour.size() == 1) hour = "0" + hour;
-  const std::string now = hour + ":" + Parse_System_Time(time, "Minute").text();
+  const std::string now = text::Pad_Zero(Military_Hour(time).whole(), 2) + ":" + Parse_System_Time(time, "Minute").text();
   return {Value(today), Value(now), Value(today), Value(now), Value(kOnlyOneReminder), Value(0), Value(0), Value(0)};
 }
 

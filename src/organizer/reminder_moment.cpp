@@ -42,8 +42,6 @@ const CodedMessage kSetReminderMessages[] = {
 // A box's or a label's number, an empty text counting 0.
 double Number_Or_Zero(const std::string& text) { return text.empty() ? 0 : Value(text).number(); }
 
-// An hour of one digit gets a "0" in front: "9" becomes "09".
-std::string Two_Digit_Hour(const std::string& hour) { return hour.size() == 1 ? "0" + hour : hour; }
 
 // The blank of a pair of boxes that go together (century and year, hour and minute): an empty
 // first one takes the present, and then an empty second one the present too; under a chosen
@@ -91,7 +89,7 @@ MomentEntries Present_Moment_Entries(const std::string& system_date, const std::
           Parse_Date(system_date, "Date").text(),
           std::to_string(year / 100),
           std::to_string(year % 100),
-          Two_Digit_Hour(hour.text()),
+          text::Pad_Zero(hour.whole(), 2),
           Parse_System_Time(system_time, "Minute").text()};
 }
 

@@ -13,12 +13,6 @@ std::array<Value*, 5> Fields_In_File_Order(NonTaskReminderRecord& r) {
   return {&r.NT_Record_Number, &r.NT_Status, &r.NT_Title, &r.NT_Message, &r.NT_Time_String};
 }
 
-// The hour of a 12-hour time of the windows in two digits of the 24-hour clock.
-std::string Two_Digit_Hour(const Value& hour) {
-  std::string text = hour.text();
-  return text.size() == 1 ? "0" + text : text;
-}
-
 struct FontStep {
   std::size_t longest;
   int points;
@@ -70,7 +64,7 @@ std::string Cvrt_NTTimeDateStrg_To_24h_Tm(const std::string& Time_Date_String) {
   const TimeAndDate cut = Cut_Time_And_Date(Time_Date_String);
   const Value hour = organizer::Convert_Hour_To_Military_Time(Parse_Output_Style_12h_Time(cut.time, "Hour"),
                                                               Parse_Output_Style_12h_Time(cut.time, "Time Of Day"));
-  return Two_Digit_Hour(hour) + ":" + Parse_Output_Style_12h_Time(cut.time, "Minute").text() + ", " + cut.date;
+  return text::Pad_Zero(hour.whole(), 2) + ":" + Parse_Output_Style_12h_Time(cut.time, "Minute").text() + ", " + cut.date;
 }
 
 std::string Cvrt_NTTimeDateStrg_To_12h_Tm(const std::string& Time_Date_String) {

@@ -17,7 +17,6 @@ namespace {
 
 using organizer::ScheduleRecord;
 
-
 constexpr char kNotApplicable[] = "N\\A";
 constexpr char kChooseATask[] = "Select a task from the list above.";
 constexpr char kChooseAMessage[] = "Please select a reminder message from the list.";
