@@ -118,6 +118,29 @@ class frmScheduler_Reminder : public QMainWindow {
   // Resets the new-task window's reminder values to today, now, one reminder and no interval.
   void Refresh_Set_Reminder_Window();
 
+  // ---- Deleting tasks and members (frmScheduler_ReminderDelete.cpp) ---------------------------
+  // Both rewrite Schedule.tmp and TRemin.tmp in one pass under TRemin_Is_In_Use; the origin
+  // tells the Organizer's own buttons from frmMultiPurposeForm's.
+  void Delete_A_Selected_Record(std::string_view Calling_Sub_Origin);
+  void Delete_A_Group_Member(std::string_view Calling_Sub_Origin);
+
+  // ---- The multi-purpose window's ways in (frmScheduler_ReminderMultiPurpose.cpp) -------------
+  // Sets frmMultiPurposeForm up for the purpose its origin names and shows it.
+  void Multipurpose_Form(std::string_view Calling_Sub_Origin);
+  void Add_New_Group_Member();
+  void Delete_Group_Member_From_Menu();
+  void Delete_A_Task_From_Menu();
+  void Select_Task_Info_Window();
+
+  // ---- Non-task reminders (frmScheduler_ReminderNonTask.cpp) ----------------------------------
+  void Activate_Non_Task_Reminder_Window();
+  void Activate_Change_NT_Task_Window();
+  void Activate_Delete_NT_Task_Window();
+  void Activate_View_NT_Task_Window();
+
+  // ---- Printing the log (frmScheduler_ReminderPrint.cpp) ---------------------------------------
+  void Activate_Print_Log_Screen();
+
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -136,6 +159,10 @@ class frmScheduler_Reminder : public QMainWindow {
   void On_Choice(QListWidget* list, const QListWidgetItem*& chosen, const std::function<void()>& click);
   void Connect_Log();
   void Connect_New_Task();
+  void Connect_Delete();
+  void Connect_Multi_Purpose();
+  void Connect_Non_Task();
+  void Connect_Print_Log();
   void Form_Activate();
 
   std::array<Value, organizer::kScreenChartCells> chart_owners_{};  // Chart_History_List_Content_Tracker

@@ -50,6 +50,22 @@ inline constexpr std::string_view kReminderWindowMoreDetails = "frmReminderWindo
 inline constexpr std::string_view kMultiPurposeDelete1 = "frmMultiPurposeForm.cmdDelete_1_Click()";
 inline constexpr std::string_view kLblChartHistoryListClick = "lblChartHistoryList_Click(Index As Integer)";
 
+// ---- Multipurpose_Form: the purpose, in the order in which they are tested -------------------
+inline constexpr std::string_view kAddNewGroupMemberOrigin = "frmScheduler_Reminder.Add_New_Group_Member()";
+inline constexpr std::string_view kDeleteGroupMemberOrigin = "frmScheduler_Reminder.Delete_Group_Member()";
+inline constexpr std::string_view kDeleteATaskFromMenuOrigin = "Delete_A_Task_From_Menu()";
+inline constexpr std::string_view kSelectTaskInfoWindowOrigin = "Select_Task_Info_Window()";
+inline constexpr std::string_view kActivateNonTaskReminderWindow = "Activate_Non_Task_Reminder_Window()";
+inline constexpr std::string_view kActivateChangeNTTaskWindow = "Activate_Change_NT_Task_Window()";
+inline constexpr std::string_view kActivateDeleteNTTaskWindow = "Activate_Delete_NT_Task_Window()";
+inline constexpr std::string_view kActivateViewNTTaskWindow = "Activate_View_NT_Task_Window()";
+inline constexpr std::string_view kActivatePrintLogScreen = "Activate_Print_Log_Screen()";
+
+// ---- Delete_A_Selected_Record and Delete_A_Group_Member: whose list names the record ----------
+inline constexpr std::string_view kCmdDeleteSelectedRecordClick = "cmdDeleteSelectedRecord_Click()";
+inline constexpr std::string_view kCmdDeleteClick = "cmdDelete_Click()";
+// kMultiPurposeDelete1 and kMultiPurposeDelete name frmMultiPurposeForm's two delete buttons.
+
 // ---- frmSetReminder: whose reminder it sets (Store_Calling_Form_Origin) ----------------------
 inline constexpr std::string_view kNewTaskWindow = "frmAddNewAppointment_Reminder";
 inline constexpr std::string_view kTaskInformationWindow = "frmTaskInformation";
