@@ -24,14 +24,14 @@ bool Next_Line(std::istream& in, Output& out, std::string& line) {
 }
 
 // `words` is the room for the line's words, kept from line to line.
-void Run_Line(const std::string& line, std::vector<std::string>& words, Command_Context& context) {
+void Run_Line(const std::string& line, Shell_Words& words, Command_Context& context) {
   std::optional<std::string> error;
   if (!Split_Shell_Words(line, words)) {
     error = Error_Line("Usage", "the line ends inside quotes or after a backslash.");
-  } else if (words.empty()) {
+  } else if (words.words.empty()) {
     return;  // nothing but blanks or a comment
   } else {
-    error = Run_Command_In_Place(words, context);
+    error = Run_Command_In_Place(words.words, context);
   }
   if (error) context.out.Line(*error);
   context.out.Line("");
@@ -45,7 +45,7 @@ void Run_Batch(const Arguments&, Command_Context& context) {
   Output& out = context.out;
   Command_Context batch{out, true};
   std::string line;
-  std::vector<std::string> words;
+  Shell_Words words;
   if (!Next_Line(in, out, line)) return;
   // A byte-order mark, which some editors put at the start of a text file, is no command.
   if (line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());

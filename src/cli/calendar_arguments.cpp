@@ -57,7 +57,7 @@ bool Is_All_Digits(std::string_view text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-const std::optional<std::string>& Month_Name_Of(const std::string& month) {
+const std::optional<std::string>& Month_Name_Of(std::string_view month) {
   // The vocabulary's answer depends on the text alone, and costs a loose comparison with every
   // form of every month; a batch asks for the same few texts again and again. So the answers
   // are remembered, each in its place, where another text that comes to the same place takes
@@ -66,12 +66,12 @@ const std::optional<std::string>& Month_Name_Of(const std::string& month) {
   Remembered_Month& place = remembered[Place_Of(month)];
   if (!place.asked || place.text != month) {
     const Value name = engine::Define_Month(Value(month), "Get Month Name");
-    place = {true, month, name.is_empty() ? std::nullopt : std::optional<std::string>(name.text())};
+    place = {true, std::string(month), name.is_empty() ? std::nullopt : std::optional<std::string>(name.text())};
   }
   return place.name;
 }
 
-const std::string& Required_Month_Name(const std::string& month) {
+const std::string& Required_Month_Name(std::string_view month) {
   const std::optional<std::string>& name = Month_Name_Of(month);
   if (!name) throw Command_Error("Invalid Month Entry", Quoted(month) + " is no month's number or name.");
   return *name;
@@ -94,7 +94,7 @@ Message Refusal_Of_Day(Message refusal, const Day& day) {
   return refusal;
 }
 
-std::int64_t Year_Of(const std::string& year) {
+std::int64_t Year_Of(std::string_view year) {
   const std::optional<std::int64_t> value = Is_All_Digits(year) ? Digits_Up_To(year, engine::kLastYear) : std::nullopt;
   if (!value) throw Command_Error(calendar::Select_Month_Entry_Message(calendar::kYearOutOfRange));
   return *value;

@@ -17,9 +17,9 @@ engine::CalendarStyle Style_Of(const Arguments& arguments);
 
 // The full English name of a month given in any form Define_Month accepts; nothing for a text
 // it does not know. The answer stands until the next call.
-const std::optional<std::string>& Month_Name_Of(const std::string& month);
+const std::optional<std::string>& Month_Name_Of(std::string_view month);
 // The same, failing with "Invalid Month Entry" for a month the vocabulary does not know.
-const std::string& Required_Month_Name(const std::string& month);
+const std::string& Required_Month_Name(std::string_view month);
 
 // A DAY: digits for a whole number from 1 up, of any length; anything else, and 0, fails with
 // "Invalid Date Entry". Whether the month has that day is the procedures' question, told with
@@ -37,7 +37,7 @@ Message Refusal_Of_Day(Message refusal, const Day& day);
 
 // A year written as a whole number from 0 to 1,000,000; anything else fails with the entry
 // windows' "Invalid Year Entry".
-std::int64_t Year_Of(const std::string& year);
+std::int64_t Year_Of(std::string_view year);
 
 // True when the text is one or more of the digits 0 to 9 and nothing else.
 bool Is_All_Digits(std::string_view text);

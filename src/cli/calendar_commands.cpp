@@ -59,9 +59,9 @@ void Run_Weekday(const Arguments& arguments, Command_Context& context) {
 // The month as "View Month On Calendar" draws it, after that window's checks. An empty month is
 // a month not chosen; the year is the text of the year box.
 void Run_Month(const Arguments& arguments, Command_Context& context) {
-  const std::string& month_text = arguments.operands[0];
+  const std::string_view month_text = arguments.operands[0];
   const std::string month = month_text.empty() ? std::string() : Required_Month_Name(month_text);
-  const std::string& year_text = arguments.operands[1];
+  const std::string year_text(arguments.operands[1]);  // the text of the year box
   const engine::CalendarStyle style = Style_Of(arguments);
   const int status = calendar::Select_Month_Entry_Status(month, year_text, engine::Calendar_Style_Name(style));
   if (status != calendar::kSelectMonthAccepted) throw Command_Error(calendar::Select_Month_Entry_Message(status));

@@ -56,6 +56,9 @@ constexpr std::array<Command_Spec, 14> kCommands{{
     {"--version", "--help | --version",                                      false, {},              0, 0, Run_Version},
 }};
 
+static_assert(std::ranges::all_of(kCommands, [](const Command_Spec& command) { return command.options.size() <= kMostOptions; }),
+              "Arguments keeps room for the options of every command");
+
 constexpr std::string_view kProgram = "orrivane-cal";
 constexpr std::string_view kHelpHint = "orrivane-cal --help lists the commands.";
 
@@ -79,18 +82,16 @@ const Option_Spec* Find_Option(const Command_Spec& command, std::string_view nam
 
 // Options are the words that name one of the command's options ("--units ymd" or
 // "--units=ymd"), up to a "--"; every other word is an operand, so that "-5" is a year. The
-// words are the command's name and what follows it; the operands keep their storage, gathered
-// behind the name, and a word already in its place is not moved (most commands have no option).
-Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string>& words) {
+// words are the command's name and what follows it; the operands are gathered behind the name.
+Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string_view>& words) {
   constexpr std::size_t kFirstOperand = 1;  // behind the command's name
   Arguments arguments;
   std::size_t operands = 0;
   bool options_end = false;
   for (std::size_t i = kFirstOperand; i < words.size(); ++i) {
-    std::string& word = words[i];
+    const std::string_view word = words[i];
     if (options_end || !word.starts_with("--")) {
-      const std::size_t place = kFirstOperand + operands++;
-      if (place != i) words[place] = std::move(word);
+      words[kFirstOperand + operands++] = word;
       continue;
     }
     if (word == "--") {
@@ -98,27 +99,26 @@ Arguments Parse_Arguments(const Command_Spec& command, std::vector<std::string>&
       continue;
     }
     const std::size_t equals = word.find('=');
-    const std::string_view name = std::string_view(word).substr(0, equals);
-    const Option_Spec* option = Find_Option(command, name);
+    const Option_Spec* option = Find_Option(command, word.substr(0, equals));
     if (option == nullptr) Usage_Error(command);
-    std::string value;
-    if (equals != std::string::npos) {
+    std::string_view value;
+    if (equals != std::string_view::npos) {
       if (!option->takes_value) Usage_Error(command);
       value = word.substr(equals + 1);
     } else if (option->takes_value) {
       if (i + 1 >= words.size()) Usage_Error(command);
-      value = std::move(words[++i]);
+      value = words[++i];
     }
-    arguments.options.emplace_back(option->name, std::move(value));
+    arguments.Give(option->name, value);
   }
-  arguments.operands = std::span<const std::string>(words.data() + kFirstOperand, operands);
+  arguments.operands = std::span<const std::string_view>(words.data() + kFirstOperand, operands);
   if (arguments.operands.size() < command.least_operands || arguments.operands.size() > command.most_operands) {
     Usage_Error(command);
   }
   return arguments;
 }
 
-void Run_Parsed(std::vector<std::string>& words, Command_Context& context) {
+void Run_Parsed(std::vector<std::string_view>& words, Command_Context& context) {
   if (words.empty()) {
     throw Command_Error("Usage", std::string(kProgram) + " COMMAND ...; " + std::string(kHelpHint));
   }
@@ -132,20 +132,31 @@ void Run_Parsed(std::vector<std::string>& words, Command_Context& context) {
 
 }  // namespace
 
-bool Arguments::Has(std::string_view option) const { return Value_Of(option) != nullptr; }
+bool Arguments::Has(std::string_view option) const { return Value_Of(option).has_value(); }
 
-const std::string* Arguments::Value_Of(std::string_view option) const {
-  for (auto it = options.rbegin(); it != options.rend(); ++it) {
-    if (it->first == option) return &it->second;
+std::optional<std::string_view> Arguments::Value_Of(std::string_view option) const {
+  for (std::size_t i = 0; i < option_count; ++i) {
+    if (options[i].first == option) return options[i].second;
   }
-  return nullptr;
+  return std::nullopt;
 }
 
-std::optional<std::string> Run_Command(std::vector<std::string> words, Command_Context& context) {
-  return Run_Command_In_Place(words, context);
+void Arguments::Give(std::string_view option, std::string_view value) {
+  for (std::size_t i = 0; i < option_count; ++i) {
+    if (options[i].first == option) {
+      options[i].second = value;  // the value given last counts
+      return;
+    }
+  }
+  options[option_count++] = {option, value};
 }
 
-std::optional<std::string> Run_Command_In_Place(std::vector<std::string>& words, Command_Context& context) {
+std::optional<std::string> Run_Command(const std::vector<std::string>& words, Command_Context& context) {
+  std::vector<std::string_view> views(words.begin(), words.end());
+  return Run_Command_In_Place(views, context);
+}
+
+std::optional<std::string> Run_Command_In_Place(std::vector<std::string_view>& words, Command_Context& context) {
   try {
     Run_Parsed(words, context);
     return std::nullopt;

@@ -46,10 +46,10 @@ const Unit_Row& Row_Of_Letter(char letter) {
 }
 
 // The ticks of the remaining mode: the letters of --units, every unit when it is not given.
-elapsed::Ticked_Units Ticked_Units_Of(const std::string* letters) {
+elapsed::Ticked_Units Ticked_Units_Of(std::optional<std::string_view> letters) {
   elapsed::Ticked_Units ticked{};
-  ticked.fill(letters == nullptr);
-  if (letters == nullptr) return ticked;
+  ticked.fill(!letters);
+  if (!letters) return ticked;
   for (char letter : *letters) ticked[elapsed::Unit_Index(Row_Of_Letter(letter).unit)] = true;
   return ticked;
 }
@@ -84,7 +84,8 @@ void Century_And_Year(std::string year, Time_Selection& selection) {
 // A moment in the window's moment text, "09:05, March 1, 2001", taken apart as the window takes
 // its labels apart, into the boxes of one side. The text must be of that form exactly; the month
 // may be any form of the month vocabulary, and the date any digits (or none).
-Time_Selection Selection_Of(const std::string& moment) {
+Time_Selection Selection_Of(std::string_view moment_text) {
+  const std::string moment(moment_text);
   std::array<std::string, 5> parts;  // hour, minute, month, date, year
   try {
     static constexpr std::array<const char*, 5> kParts{"Hour", "Minute", "Month", "Date", "Year"};
@@ -114,8 +115,8 @@ Time_Selection Selection_Of(const std::string& moment) {
 
 void Run_Elapsed(const Arguments& arguments, Command_Context& context) {
   const bool total = arguments.Has("--total");
-  const std::string* units = arguments.Value_Of("--units");
-  if (total && units != nullptr) {
+  const std::optional<std::string_view> units = arguments.Value_Of("--units");
+  if (total && units) {
     throw Command_Error("Usage", "--total and --units exclude each other: " + Usage_Of("elapsed"));
   }
   const elapsed::Ticked_Units ticked = Ticked_Units_Of(units);

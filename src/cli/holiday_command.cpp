@@ -62,8 +62,8 @@ void All_By_Year(const Year_Boxes& years, Output& out) {
 
 void Run_Holidays(const Arguments& arguments, Command_Context& context) {
   const Year_Boxes years = Year_Boxes_Of(arguments);
-  if (const std::string* name = arguments.Value_Of("--holiday")) {
-    By_Holiday(*name, years, context.out);
+  if (const std::optional<std::string_view> name = arguments.Value_Of("--holiday")) {
+    By_Holiday(std::string(*name), years, context.out);
   } else {
     All_By_Year(years, context.out);
   }

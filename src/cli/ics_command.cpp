@@ -272,10 +272,10 @@ void Run_Ics(const Arguments& arguments, Command_Context& context) {
   ComparisonCalendar days;
   Alarm_Maker alarms(days);
   // A missing reminder file fails before the log is read.
-  const std::string* notes = arguments.Value_Of("--notes");
+  const std::optional<std::string_view> notes = arguments.Value_Of("--notes");
   std::optional<reminders::NonTaskReminderReader> notes_file;
-  if (notes != nullptr) notes_file.emplace(*notes);
-  organizer::For_Each_Record(arguments.operands[0], [&](const ScheduleRecord& record) {
+  if (notes) notes_file.emplace(std::string(*notes));
+  organizer::For_Each_Record(std::string(arguments.operands[0]), [&](const ScheduleRecord& record) {
     // Marker records stand for members, not for events.
     if (record.Record_Number.number() > -1) Add_Task(calendar.get(), record, alarms);
   });

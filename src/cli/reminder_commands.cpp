@@ -5,6 +5,7 @@
 #include "cli/command_error.h"
 #include "cli/commands.h"
 #include "cli/reminder_arguments.h"
+#include "core/text.h"
 #include "organizer/log_file.h"
 #include "reminders/non_task_reminders.h"
 #include "reminders/reminder_comparison.h"
@@ -51,7 +52,7 @@ void Read_Notes(const std::string& path, ReminderFiles& files) {
   }
 }
 
-std::string Two_Digits(int n) { return (n < 10 ? "0" : "") + std::to_string(n); }
+std::string Two_Digits(int n) { return text::Pad_Zero(n, 2); }
 
 // "2001-03-05 14:30", the year in four digits at least.
 std::string Minute_Label(const reminders::CalendarMinute& m) {
@@ -75,8 +76,8 @@ std::string Due_Line(const DueReminder& due, const ReminderFiles& files) {
 
 // The comparison number of a fixed reminder moment.
 void Run_Minutes(const Arguments& arguments, Command_Context& context) {
-  const std::string& date = arguments.operands[0];
-  const std::string& time = arguments.operands[1];
+  const std::string date(arguments.operands[0]);
+  const std::string time(arguments.operands[1]);
   Reminder_Date_Of(date);
   Check_Reminder_Time(time);
   context.out.Line(std::to_string(
@@ -85,15 +86,16 @@ void Run_Minutes(const Arguments& arguments, Command_Context& context) {
 
 // The time-left sentence of a task that starts at DATE TIME, seen at NOW.
 void Run_Remaining(const Arguments& arguments, Command_Context& context) {
-  const Checked_Day start = Reminder_Date_Of(arguments.operands[0]);
-  const std::string& time = arguments.operands[1];
+  const std::string start_date(arguments.operands[0]);
+  const Checked_Day start = Reminder_Date_Of(start_date);
+  const std::string time(arguments.operands[1]);
   Check_Reminder_Time(time);
-  const std::string& now_date = arguments.operands[2];
-  const std::string& now_time = arguments.operands[3];
+  const std::string now_date(arguments.operands[2]);
+  const std::string now_time(arguments.operands[3]);
   System_Date_Of(now_date);
   Check_System_Time(now_time);
   const std::size_t colon = time.find(':');
-  const std::string month = arguments.operands[0].substr(0, arguments.operands[0].find(' '));
+  const std::string month = start_date.substr(0, start_date.find(' '));
   context.out.Line(reminders::Create_Time_Remaining_String(
       Value(static_cast<long long>(start.year / kYearsOfACentury)),
       Value(static_cast<long long>(start.year % kYearsOfACentury)), Value(month), Value(std::to_string(start.day)),
@@ -103,10 +105,10 @@ void Run_Remaining(const Arguments& arguments, Command_Context& context) {
 
 // The reminders due in NOW's minute, or in each minute from NOW's to UNTIL's.
 void Run_Due(const Arguments& arguments, Command_Context& context) {
-  const std::string* log = arguments.Value_Of("--log");
-  const std::string* notes = arguments.Value_Of("--notes");
-  if (log == nullptr && notes == nullptr) throw Command_Error("Usage", Usage_Of("due"));
-  const auto& operands = arguments.operands;
+  const std::optional<std::string_view> log = arguments.Value_Of("--log");
+  const std::optional<std::string_view> notes = arguments.Value_Of("--notes");
+  if (!log && !notes) throw Command_Error("Usage", Usage_Of("due"));
+  const std::vector<std::string> operands(arguments.operands.begin(), arguments.operands.end());
   const bool ranged = operands.size() == 4;
   if (operands.size() != 2 && !ranged) throw Command_Error("Usage", Usage_Of("due"));
   const std::int64_t from = System_Moment_Number(operands[0], operands[1]);
@@ -117,8 +119,8 @@ void Run_Due(const Arguments& arguments, Command_Context& context) {
   }
 
   ReminderFiles files;
-  if (log != nullptr) Read_Task_Reminders(*log, files.Tasks);
-  if (notes != nullptr) Read_Notes(*notes, files);
+  if (log) Read_Task_Reminders(std::string(*log), files.Tasks);
+  if (notes) Read_Notes(std::string(*notes), files);
   reminders::ComparisonCalendar calendar;
   // Everything is worked out before the first line goes out: a failure is the only answer.
   const std::vector<DueReminder> due = reminders::Due_Reminders(files, from, to, calendar);

@@ -10,11 +10,19 @@
 
 namespace orrivane::cli {
 
-// The words of the line; nothing when a quotation is left open or the line ends in a backslash.
-std::optional<std::vector<std::string>> Split_Shell_Words(std::string_view line);
+// The words of one line as views: a word written as it stands is seen in the line itself, a
+// word with quotes or backslashes in `unquoted`, where it is written without them. The views
+// hold while the line and this object stand unchanged. Kept from line to line, the two keep
+// their room.
+struct Shell_Words {
+  std::vector<std::string_view> words;
+  std::string unquoted;
+};
 
-// The same into `words`, which is emptied first and keeps its room from line to line; false
-// where the other answers nothing.
-bool Split_Shell_Words(std::string_view line, std::vector<std::string>& words);
+// False when a quotation is left open or the line ends in a backslash.
+bool Split_Shell_Words(std::string_view line, Shell_Words& into);
+
+// The words of the line as strings of their own; nothing where the other answers false.
+std::optional<std::vector<std::string>> Split_Shell_Words(std::string_view line);
 
 }  // namespace orrivane::cli

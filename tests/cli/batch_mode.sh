@@ -68,6 +68,14 @@ Saturday
 error: No Month Selected: A month must be selected.
 "
 
+# Quotes and backslashes may stand anywhere in a word, in every word of a line; an option given
+# twice counts with the value given last.
+feeds "'weekday' \"Jan\"'uary' '1' 2\\000
+holidays --holiday Christmas --holiday \"Valentine's Day\" 2003" "Saturday
+
+Valentine's Day, Friday, February 14, 2003
+"
+
 # Errors go to standard output in their place, and the batch goes on.
 feeds "weekday January 32 2000
 frob
