@@ -33,3 +33,13 @@ orrivane_install_packages() {
 }
 
 orrivane_jobs() { nproc 2>/dev/null || echo 2; }
+
+# Sets orrivane_launcher to the cmake arguments that compile through ccache where the machine
+# has it (empty otherwise). The paths are taken relative to the checkout, so a fresh clone finds
+# what another one compiled.
+orrivane_use_compiler_cache() {
+  orrivane_launcher=()
+  command -v ccache >/dev/null 2>&1 || return 0
+  export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=true
+  orrivane_launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_C_COMPILER_LAUNCHER=ccache)
+}
