@@ -98,6 +98,14 @@ void Drop_From_Working_Log(const organizer::RecordTest& drop) {
   organizer::Drop_From_Log(Window<Form1>().Task_Reminder_Flag(), drop);
 }
 
+// The working copy holds a change that no log file has, and no entry of the task list is chosen
+// for the buttons that act on one.
+void Log_Changed_With_No_Task_Chosen(frmScheduler_Reminder& organizer) {
+  organizer.Save_File_Prompt_Flag = 1;
+  organizer.cmdDeleteSelectedRecord->setEnabled(false);
+  organizer.cmdViewTaskInformation->setEnabled(false);
+}
+
 }  // namespace
 
 void frmScheduler_Reminder::Connect_Delete() {
@@ -118,9 +126,7 @@ void frmScheduler_Reminder::Delete_A_Selected_Record(std::string_view Calling_Su
   Put_Caller_Away(*caller);
   Refresh_Organizer_Screen(organizer::kDeleteASelectedRecord);
   Window<frmLargeCalendar>().Refresh_Calendar_TaskList();
-  Save_File_Prompt_Flag = 1;
-  cmdDeleteSelectedRecord->setEnabled(false);
-  cmdViewTaskInformation->setEnabled(false);
+  Log_Changed_With_No_Task_Chosen(*this);
 }
 
 void frmScheduler_Reminder::Delete_A_Group_Member(std::string_view Calling_Sub_Origin) {
@@ -143,9 +149,7 @@ void frmScheduler_Reminder::Delete_A_Group_Member(std::string_view Calling_Sub_O
   frmLargeCalendar& large = Window<frmLargeCalendar>();
   large.cboShowTaskListFor->clear();
   large.Refresh_Calendar_TaskList();
-  Save_File_Prompt_Flag = 1;
-  cmdDeleteSelectedRecord->setEnabled(false);
-  cmdViewTaskInformation->setEnabled(false);
+  Log_Changed_With_No_Task_Chosen(*this);
 }
 
 }  // namespace orrivane

@@ -14,10 +14,10 @@
 #include "organizer/multipurpose_delete_source.h"
 #include "organizer/new_task_window_test.h"
 #include "organizer/organizer_callers.h"
+#include "organizer/set_reminder_window_test.h"
 #include "organizer/task_window_test.h"
 #include "reminders/frmReminderWindow.h"
 #include "reminders/in_use_flags.h"
-#include "shell/frmAbout.h"
 #include "support/golden.h"
 
 namespace orrivane {
@@ -31,18 +31,9 @@ using testing::GoldenCase;
 constexpr char kTaskQuestion[] = "Confirm Event Delete";
 constexpr char kMemberQuestion[] = "Confirm Entity Delete";
 
-// The program started on the afternoon of March 5, 2001 with its calendars drawn and its working
-// files emptied, before a test writes its log.
-class StartedTaskWindowTest : public testing::TaskWindowTest {
- protected:
-  void SetUp() override {
-    TaskWindowTest::SetUp();
-    machine().Set_Now(2001, 3, 5, 14, 5, 9);
-    Window<Form1>().show();
-    Process_Events();
-    Window<frmAbout>().hide();
-  }
-};
+// The program started on the afternoon of March 5, 2001, with its calendars drawn and its working
+// files emptied before a test writes its log, as the tests of setting a reminder start it.
+using StartedTaskWindowTest = testing::SetReminderWindowTest;
 
 class DeleteTest : public StartedTaskWindowTest {
  protected:
@@ -59,7 +50,7 @@ class DeleteTest : public StartedTaskWindowTest {
   }
   void TearDown() override {
     organizer::Multi_Purpose_Delete_Source() = {};
-    TaskWindowTest::TearDown();
+    StartedTaskWindowTest::TearDown();
   }
 
   static ScheduleRecord Dentist() { return Task_At(1, "Anna", 2001, "March", "05", "14", "30", "Dentist"); }
