@@ -16,19 +16,14 @@ class frmChangeRecordTimesTest : public TaskEditWindowTest {
  protected:
   // Anna's dentist from 14:30 on March 5, 2001 to 16:05 on March 7, 2001, her reminder off.
   static ScheduleRecord Dentist() {
-    ScheduleRecord r = Task_At(1, "Anna", 2001, "March", "05", "14", "30", "Dentist");
+    ScheduleRecord r = Task_Without_Reminder(1, "Anna", 2001, "March", "05", "14", "30", "Dentist");
     r.Time_Range_Flag = 1;
     r.Finish_Date = "07";
     r.Finish_Hour = "16";
     r.Finish_Minute = "05";
-    r.Reminder_Status = 0;
     return r;
   }
-  static ScheduleRecord Parade() {
-    ScheduleRecord r = Task_At(2, "Anna", 2024, "July", "04", "09", "00", "Parade");
-    r.Reminder_Status = 0;
-    return r;
-  }
+  static ScheduleRecord Parade() { return Task_Without_Reminder(2, "Anna", 2024, "July", "04", "09", "00", "Parade"); }
   void Show_Dentist() {
     Show_In_Log({organizer::Make_Person_Marker("Anna"), Dentist(), Parade()}, 1);
     Open_Times();

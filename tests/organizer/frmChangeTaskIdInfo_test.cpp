@@ -17,15 +17,10 @@ using testing::TaskEditWindowTest;
 
 class frmChangeTaskIdInfoTest : public TaskEditWindowTest {
  protected:
-  static ScheduleRecord Dentist() {
-    ScheduleRecord r = Task_At(1, "Anna", 2001, "March", "05", "14", "30", "Dentist");
-    r.Reminder_Status = 0;
-    return r;
-  }
+  static ScheduleRecord Dentist() { return Task_Without_Reminder(1, "Anna", 2001, "March", "05", "14", "30", "Dentist"); }
   // Anna with the dentist, Ben with a marker only, Carla without a marker but with a task.
   void Show_Dentist() {
-    ScheduleRecord carlas = Task_At(2, "Carla", 2001, "March", "06", "10", "00", "Run");
-    carlas.Reminder_Status = 0;
+    const ScheduleRecord carlas = Task_Without_Reminder(2, "Carla", 2001, "March", "06", "10", "00", "Run");
     Show_In_Log({Make_Person_Marker("Anna"), Dentist(), Make_Person_Marker("Ben"), carlas}, 1);
     Open_Identity();
   }

@@ -21,11 +21,7 @@ class frmTaskInformationEditingTest : public TaskEditWindowTest {
   // Anna's dentist (number 1) with a reminder on, Ben's meeting (2) with none, each after its
   // member's marker as first written.
   static ScheduleRecord Dentist() { return Task_At(1, "Anna", 2001, "March", "05", "14", "30", "Dentist"); }
-  static ScheduleRecord Meeting() {
-    ScheduleRecord r = Task_At(2, "Ben", 2001, "March", "06", "09", "00", "Meeting");
-    r.Reminder_Status = 0;
-    return r;
-  }
+  static ScheduleRecord Meeting() { return Task_Without_Reminder(2, "Ben", 2001, "March", "06", "09", "00", "Meeting"); }
   void Show_Dentist() {
     organizer::Generate_Person_Marker_Record(organizer::kScheduleFile, "Anna");
     organizer::Append_Record(organizer::kScheduleFile, Dentist());
@@ -146,6 +142,23 @@ TEST_F(frmTaskInformationEditingTest, SavingWithYesWritesTheRecordAndTheLogCount
   EXPECT_FALSE(File_Present(organizer::kTaskReminderScratchFile));
   EXPECT_FALSE(main().TRemin_Is_In_Use(false, "Evaluate"));
   EXPECT_TRUE(information().isVisible());
+}
+
+TEST_F(frmTaskInformationEditingTest, AReminderSwitchedOffAndOnAgainComesBackAtTheEnd) {
+  Show_In_Log({Make_Person_Marker("Anna"), Dentist(), Task_At(3, "Anna", 2001, "March", "07", "18", "00", "Gym")}, 1);
+  const auto reminder_numbers = [this] {
+    std::vector<std::string> numbers;
+    for (const ScheduleRecord& record : Reminders()) numbers.push_back(record.Record_Number.text());
+    return numbers;
+  };
+  ASSERT_EQ(reminder_numbers(), (std::vector<std::string>{"1", "3"}));
+  Click(information().cmdStatus);
+  Save();
+  EXPECT_EQ(reminder_numbers(), std::vector<std::string>{"3"});
+  Click(information().cmdStatus);
+  Save();
+  EXPECT_EQ(reminder_numbers(), (std::vector<std::string>{"3", "1"}));
+  EXPECT_EQ(Log()[1].Reminder_Status, Value(1));
 }
 
 TEST_F(frmTaskInformationEditingTest, ControlSSavesFromTheKeyboard) {

@@ -23,6 +23,15 @@ class TaskEditWindowTest : public SetReminderWindowTest {
   frmChangeTaskIdInfo& identity() { return Window<frmChangeTaskIdInfo>(); }
   frmColorPalette& palette() { return Window<frmColorPalette>(); }
 
+  // A task at one moment, as Task_At, with its reminder off.
+  static organizer::ScheduleRecord Task_Without_Reminder(int number, const std::string& member, int year,
+                                                         const char* month, const char* date, const char* hour,
+                                                         const char* minute, const std::string& name) {
+    organizer::ScheduleRecord r = Task_At(number, member, year, month, date, hour, minute, name);
+    r.Reminder_Status = 0;
+    return r;
+  }
+
   // ---- The working files -------------------------------------------------------------------
   void Write_Reminders(const std::vector<organizer::ScheduleRecord>& records) {
     organizer::samples::Write_Log(organizer::kTaskReminderFile, records);
