@@ -1,7 +1,5 @@
 #include "organizer/frmAddNewAppointment_Reminder.h"
 
-#include <QEvent>
-#include <QFocusEvent>
 #include <QStringList>
 #include <string_view>
 
@@ -86,17 +84,6 @@ QComboBox* Make_List_Box(QWidget* parent, const QString& name, const QStringList
   return box;
 }
 
-// An input enabled in the window background colour, or disabled in the button-face colour.
-void Enable_Box(QWidget* box, bool enabled) {
-  box->setEnabled(enabled);
-  controls::Set_Box_Color(box, enabled ? controls::kWindowBackground : controls::kButtonFace);
-}
-
-// A multi-line box's text with its line breaks as the log keeps them, CR LF.
-std::string Lines_Of(const QPlainTextEdit* box) {
-  return box->toPlainText().replace(QStringLiteral("\n"), QStringLiteral("\r\n")).toStdString();
-}
-
 // ---- Geometry, in pixels -----------------------------------------------------------------------
 constexpr int kMargin = 12;
 constexpr int kGap = 12;
@@ -170,7 +157,7 @@ void frmAddNewAppointment_Reminder::Build_Choices() {
   fraPerson = Make<QGroupBox>(this, "fraPerson", "Group Member");
   optExistingPerson = Make<QRadioButton>(fraPerson, "optExistingPerson", "Select An Existing Member");
   cboExistingPerson = controls::Make_Combo(fraPerson, "cboExistingPerson", false);
-  cboExistingPerson->installEventFilter(this);
+  controls::On_Got_Focus(cboExistingPerson, [this] { cboExistingPerson_GotFocus(); });
   optEnterNameOfNewPerson = Make<QRadioButton>(fraPerson, "optEnterNameOfNewPerson", "Enter Name Of New Member");
   txtNewPerson = Make<QLineEdit>(fraPerson, "txtNewPerson");
   optExistingPerson->setChecked(true);
@@ -264,7 +251,7 @@ void frmAddNewAppointment_Reminder::chkSelectTimeRange_Click() {
   FraTo->setTitle(range ? kToCaption : "");
   for (const MomentRow& row : kMomentRows) {
     (this->*row.label)[kTaskFinish]->setEnabled(range);
-    Enable_Box((this->*row.box)[kTaskFinish], range);
+    controls::Enable_Input((this->*row.box)[kTaskFinish], range);
   }
 }
 
@@ -279,8 +266,8 @@ void frmAddNewAppointment_Reminder::optEnterNameOfNewPerson_Click() {
 }
 
 void frmAddNewAppointment_Reminder::Enable_Person_Input(bool existing) {
-  Enable_Box(cboExistingPerson, existing);
-  Enable_Box(txtNewPerson, !existing);
+  controls::Enable_Input(cboExistingPerson, existing);
+  controls::Enable_Input(txtNewPerson, !existing);
 }
 
 void frmAddNewAppointment_Reminder::cboExistingPerson_GotFocus() {
@@ -302,16 +289,6 @@ void frmAddNewAppointment_Reminder::cmdSet_Click() { organizer::Open_Set_Reminde
 
 void frmAddNewAppointment_Reminder::cmdClose_Click() { hide(); }
 
-bool frmAddNewAppointment_Reminder::eventFilter(QObject* watched, QEvent* event) {
-  // The box takes the focus from the user; coming back from another window or from its own
-  // list of choices is no new visit.
-  if (watched == cboExistingPerson && event->type() == QEvent::FocusIn) {
-    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) cboExistingPerson_GotFocus();
-  }
-  return QWidget::eventFilter(watched, event);
-}
-
 // ---- Adding the task ----------------------------------------------------------------------------
 
 organizer::NewTaskEntries frmAddNewAppointment_Reminder::Read_Entries() const {
@@ -331,7 +308,7 @@ organizer::NewTaskEntries frmAddNewAppointment_Reminder::Read_Entries() const {
 organizer::NewTaskDetails frmAddNewAppointment_Reminder::Read_Details() {
   organizer::NewTaskDetails details;
   details.description = Text_Of(txtDescription);
-  details.comments = Lines_Of(txtComments);
+  details.comments = controls::Lines_Of(txtComments);
   details.colour = Value(static_cast<long long>(controls::Back_Color(lblColorChoice)));
   details.reminder_on = optOn->isChecked();
   for (std::size_t i = 0; i < organizer::ReminderVariables::kNames.size(); ++i) {

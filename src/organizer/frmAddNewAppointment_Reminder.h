@@ -89,9 +89,6 @@ class frmAddNewAppointment_Reminder : public QWidget {
   void cmdAddThisEvent_AppointmentToTheSchedule_Click();
   void cmdClose_Click();
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
   void Build_Task();
   void Build_Moment(int moment, QGroupBox* frame);

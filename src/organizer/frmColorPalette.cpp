@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "organizer/frmAddNewAppointment_Reminder.h"
+#include "organizer/frmChangeTaskIdInfo.h"
 #include "organizer/frmTaskInformation.h"
 #include "organizer/organizer_callers.h"
 #include "platform/controls.h"
@@ -21,23 +22,24 @@ using controls::Make_Label;
 // Whose colour label a caller's identity names.
 struct ColourRoute {
   std::string_view caller;
-  // Nothing while the caller's window is not part of the program.
   QLabel* (*label)();
 };
 
 QLabel* New_Task_Colour() { return Window<frmAddNewAppointment_Reminder>().lblColorChoice; }
 QLabel* Task_Information_Colour() { return Window<frmTaskInformation>().lblColorCode; }
 
-// The third caller, the window that changes a task's name and person (lblNewColorCode), comes
-// with the editing of tasks. It shows the palette modally first and writes its identity only
-// once the palette has closed, so that while the palette is open the label holds the identity
-// the caller before left there: a colour picked on the first visit from there goes to that
-// caller's label, or nowhere, and only the next visit reaches lblNewColorCode. That order is
-// the program's and stays: Form_Activate reads the label when the activation comes through.
+QLabel* Task_Identity_Colour() { return Window<frmChangeTaskIdInfo>().lblNewColorCode; }
+
+// The third caller, the window that changes a task's name and person (lblNewColorCode), shows the
+// palette modally first and writes its identity only once the palette has closed, so that while
+// the palette is open the label holds the identity the caller before left there: a colour picked
+// on the first visit from there goes to that caller's label, or nowhere, and only the next visit
+// reaches lblNewColorCode. That order is the program's and stays: Form_Activate reads the label
+// when the activation comes through.
 constexpr ColourRoute kColourRoutes[] = {
     {organizer::kNewTaskSelectColour, New_Task_Colour},
     {organizer::kTaskInformationSelectColour, Task_Information_Colour},
-    {organizer::kChangeTaskInfoSelectColour, nullptr},
+    {organizer::kChangeTaskInfoSelectColour, Task_Identity_Colour},
 };
 
 // ---- Geometry, in pixels -----------------------------------------------------------------------
@@ -99,7 +101,7 @@ void frmColorPalette::Place_Controls() {
 QLabel* frmColorPalette::Caller_Colour_Label() const {
   const std::string caller = controls::Caption(lblStoreCallingProcedureArgument);
   for (const ColourRoute& route : kColourRoutes) {
-    if (route.caller == caller) return route.label != nullptr ? route.label() : nullptr;
+    if (route.caller == caller) return route.label();
   }
   return nullptr;
 }
@@ -121,6 +123,16 @@ void frmColorPalette::cmdSelect_Click() {
 
 void frmColorPalette::cmdCancel_Click() { hide(); }
 
+void frmColorPalette::Show_Modal() {
+  setWindowModality(Qt::ApplicationModal);
+  QEventLoop loop;
+  modal_loop_ = &loop;
+  controls::Show_In_Front(*this);
+  loop.exec();
+  modal_loop_ = nullptr;
+  setWindowModality(Qt::NonModal);
+}
+
 // The activation is handled once it has gone through: a caller that shows the palette and then
 // writes its identity is served by that identity. Being shown counts as becoming active, also
 // where the window system kept the palette active while it was hidden and shown again.
@@ -128,6 +140,7 @@ bool frmColorPalette::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show) {
     QTimer::singleShot(0, this, [this] { Form_Activate(); });
   }
+  if (event->type() == QEvent::Hide && modal_loop_ != nullptr) modal_loop_->quit();
   return QWidget::event(event);
 }
 

@@ -5,6 +5,7 @@
 // hands the choice back to it. It puts itself away as soon as another window of the program
 // becomes active.
 #include <QLabel>
+#include <QEventLoop>
 #include <QPushButton>
 #include <QWidget>
 #include <array>
@@ -34,6 +35,9 @@ class frmColorPalette : public QWidget {
   // The chosen colour to the caller's label, and away; an unknown caller gets nothing.
   void cmdSelect_Click();
   void cmdCancel_Click();
+  // Shown in front and modal, for a caller that waits for it: answers once it is hidden again,
+  // and is then modeless for the next caller.
+  void Show_Modal();
 
  protected:
   bool event(QEvent* event) override;
@@ -44,6 +48,9 @@ class frmColorPalette : public QWidget {
   void Place_Controls();
   // The colour label of the window that the caller's identity names; nothing for an unknown one.
   QLabel* Caller_Colour_Label() const;
+
+  // The loop of a modal showing, while it runs.
+  QEventLoop* modal_loop_ = nullptr;
 };
 
 }  // namespace orrivane

@@ -3,41 +3,70 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QRect>
+#include <array>
 
+#include "calendar/Form1.h"
+#include "calendar/frmLargeCalendar.h"
+#include "core/colours.h"
+#include "organizer/frmChangeRecordTimes.h"
+#include "organizer/frmChangeTaskIdInfo.h"
+#include "organizer/frmColorPalette.h"
+#include "organizer/frmScheduler_Reminder.h"
 #include "organizer/organizer_callers.h"
 #include "organizer/set_reminder_opening.h"
 #include "organizer/task_list.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
+#include "platform/platform.h"
+#include "platform/window_registry.h"
+#include "reminders/in_use_flags.h"
 
 namespace orrivane {
 
 namespace {
 
+using controls::Caption;
 using controls::Make_Button;
 using controls::Make_Label;
 using controls::Set_Caption;
 
 constexpr char kCaptionHead[] = "Task\\Event Information: ";
-constexpr char kOn[] = "ON";
-constexpr char kOff[] = "OFF";
+// The print job, and the file when the machine has no printer.
+constexpr char kPrintDocumentName[] = "Orrivane-task-information";
 
 constexpr MenuEntry kTaskInformationMenu[] = {
     {"", "mnuFile", "&File", ""},
-    {"mnuFile", "mnuClose", "Close", ""},
+    {"mnuFile", "mnuSaveChangesToRecord", "&Save Changes To Record", "Ctrl+S"},
+    {"mnuFile", "mnuPrintWindow", "&Print Window", "Ctrl+P"},
+    {"mnuFile", "mnuClose", "&Close", ""},
+    {"", "mnuEdit", "&Edit", ""},
+    {"mnuEdit", "mnuChangeTimesDates", "Change &Times\\Dates...", "Ctrl+T"},
+    {"mnuEdit", "mnuChangeIdentityInformation", "Change &Identity Information...", "Ctrl+I"},
 };
+
+// The caption of the status button.
+QString Status_Caption(std::string_view status) {
+  return QString::fromUtf8(status.data(), static_cast<qsizetype>(status.size()));
+}
 
 // ---- Geometry, in pixels -----------------------------------------------------------------------
 constexpr int kMargin = 12;
 constexpr int kLabelWidth = 110;
 constexpr int kValueLeft = kMargin + kLabelWidth + 6;
-constexpr int kValueWidth = 320;
+constexpr int kValueWidth = 380;
 constexpr int kRowHeight = 22;
 constexpr int kRowStep = 28;
 constexpr int kCommentsHeight = 64;
-constexpr int kTimeLeft = kValueLeft + 200;
+constexpr int kDateWidth = 192;
+constexpr int kTimeLeft = kValueLeft + kDateWidth + 8;
+constexpr int kTimeWidth = 60;
 constexpr int kWindowWidth = kValueLeft + kValueWidth + kMargin;
-constexpr int kFrameHeight = 96;
 constexpr int kButtonHeight = 28;
+constexpr int kChangeLeft = kTimeLeft + kTimeWidth + 12;
+constexpr int kColourWidth = 60;
+constexpr int kFrameHeight = 96;
+constexpr int kSaveWidth = 220;
+constexpr int kCloseWidth = 100;
 
 // The top of each row of the task.
 constexpr int kRecordTop = 12;
@@ -47,10 +76,10 @@ constexpr int kCommentsTop = kDescriptionTop + kRowStep;
 constexpr int kPersonTop = kCommentsTop + kCommentsHeight + 8;
 constexpr int kFromTop = kPersonTop + kRowStep;
 constexpr int kToTop = kFromTop + kRowStep;
-constexpr int kColorTop = kToTop + kRowStep;
-constexpr int kFrameTop = kColorTop + kRowStep + 6;
-constexpr int kCloseTop = kFrameTop + kFrameHeight + 10;
-constexpr int kWindowHeight = kCloseTop + kButtonHeight + kMargin;
+constexpr int kColorTop = kToTop + kRowStep + 6;
+constexpr int kFrameTop = kColorTop + kRowStep + 8;
+constexpr int kButtonsTop = kFrameTop + kFrameHeight + 10;
+constexpr int kWindowHeight = kButtonsTop + kButtonHeight + kMargin;
 
 // A label and the value beside it, on one row of the task.
 struct TaskRow {
@@ -84,6 +113,7 @@ frmTaskInformation::frmTaskInformation() {
   setWindowTitle(kCaptionHead);
   setCentralWidget(new QWidget);
   Build_Controls();
+  Build_Menu();
   Place_Controls();
   Connect_Controls();
 }
@@ -98,15 +128,14 @@ void frmTaskInformation::Build_Controls() {
   lblColorCode->setFrameShape(QFrame::Box);
   lblCommentsLabel = Make_Label(body, "lblCommentsLabel", "Comments:");
   txtComments = controls::Make<QPlainTextEdit>(body, "txtComments");
-  txtComments->setReadOnly(true);
   lblFromTime = Make_Label(body, "lblFromTime");
   lblToTime = Make_Label(body, "lblToTime");
+  cmdChange = Make_Button(body, "cmdChange", "Change...");
+  cmdSelectNewColorCode = Make_Button(body, "cmdSelectNewColorCode", "Select New Color...");
 
   fraReminder = controls::Make<QGroupBox>(body, "fraReminder", "Reminder");
   QWidget* frame = fraReminder;
-  // Switching the reminder on and off comes with editing a task here.
-  cmdStatus = Make_Button(frame, "cmdStatus", kOff);
-  cmdStatus->setEnabled(false);
+  cmdStatus = Make_Button(frame, "cmdStatus", Status_Caption(organizer::kReminderOff));
   lblMethodLabel = Make_Label(frame, "lblMethodLabel", "Method:");
   lblMethod = Make_Label(frame, "lblMethod");
   lblIntervalLabel = Make_Label(frame, "lblIntervalLabel", "Interval:");
@@ -114,39 +143,55 @@ void frmTaskInformation::Build_Controls() {
   cmdChange1 = Make_Button(frame, "cmdChange1", "Change...");
   cmdChange1->setEnabled(false);
 
+  cmdSaveChangesToThisRecord = Make_Button(body, "cmdSaveChangesToThisRecord", "Save Changes To This Record");
   cmdClose = Make_Button(body, "cmdClose", "Close");
-  menu = std::make_unique<MenuTree>(menuBar(), kTaskInformationMenu);
 }
+
+void frmTaskInformation::Build_Menu() { menu = std::make_unique<MenuTree>(menuBar(), kTaskInformationMenu); }
 
 void frmTaskInformation::Place_Controls() {
   for (const TaskRow& row : kTaskRows) {
     (this->*row.label)->setGeometry(kMargin, row.top, kLabelWidth, kRowHeight);
     (this->*row.value)->setGeometry(kValueLeft, row.top, kValueWidth, kRowHeight);
   }
-  for (QLabel* date : {lblFromDate, lblToDate}) date->resize(kTimeLeft - kValueLeft - 8, kRowHeight);
-  lblFromTime->setGeometry(kTimeLeft, kFromTop, 80, kRowHeight);
-  lblToTime->setGeometry(kTimeLeft, kToTop, 80, kRowHeight);
-  lblColorCode->resize(60, kRowHeight);
+  for (QLabel* date : {lblFromDate, lblToDate}) date->resize(kDateWidth, kRowHeight);
+  lblFromTime->setGeometry(kTimeLeft, kFromTop, kTimeWidth, kRowHeight);
+  lblToTime->setGeometry(kTimeLeft, kToTop, kTimeWidth, kRowHeight);
+  cmdChange->setGeometry(kChangeLeft, kFromTop, kWindowWidth - kMargin - kChangeLeft, kToTop + kRowHeight - kFromTop);
+  lblColorCode->resize(kColourWidth, kRowHeight);
+  cmdSelectNewColorCode->setGeometry(kValueLeft + kColourWidth + 12, kColorTop - 3, 160, kButtonHeight);
   lblCommentsLabel->setGeometry(kMargin, kCommentsTop, kLabelWidth, kRowHeight);
   txtComments->setGeometry(kValueLeft, kCommentsTop, kValueWidth, kCommentsHeight);
 
   fraReminder->setGeometry(kMargin, kFrameTop, kWindowWidth - 2 * kMargin, kFrameHeight);
   cmdStatus->setGeometry(10, 24, 60, kButtonHeight);
   lblMethodLabel->setGeometry(84, 24, 64, kRowHeight);
-  lblMethod->setGeometry(150, 24, 270, kRowHeight);
-  lblIntervalLabel->setGeometry(84, 54, 64, kRowHeight);
-  lblInterval->setGeometry(150, 54, 270, kRowHeight);
+  lblMethod->setGeometry(150, 24, 300, kRowHeight);
+  lblIntervalLabel->setGeometry(84, 58, 64, kRowHeight);
+  lblInterval->setGeometry(150, 58, 300, kRowHeight);
   cmdChange1->setGeometry(10, 58, 60, kButtonHeight);
 
-  cmdClose->setGeometry(kWindowWidth - kMargin - 100, kCloseTop, 100, kButtonHeight);
+  cmdSaveChangesToThisRecord->setGeometry(kMargin, kButtonsTop, kSaveWidth, kButtonHeight);
+  cmdClose->setGeometry(kWindowWidth - kMargin - kCloseWidth, kButtonsTop, kCloseWidth, kButtonHeight);
   centralWidget()->setFixedSize(kWindowWidth, kWindowHeight);
 }
 
 void frmTaskInformation::Connect_Controls() {
-  connect(cmdClose, &QPushButton::clicked, this, [this] { Close_Record(); });
+  connect(cmdStatus, &QPushButton::clicked, this, [this] { cmdStatus_Click(); });
+  connect(txtComments, &QPlainTextEdit::textChanged, this, [this] { txtComments_Change(); });
   connect(cmdChange1, &QPushButton::clicked, this, [this] { cmdChange1_Click(); });
+  connect(cmdChange, &QPushButton::clicked, this, [this] { Change_Task_Times(); });
+  connect(cmdSelectNewColorCode, &QPushButton::clicked, this, [this] { Activate_Color_Palette(); });
+  connect(cmdSaveChangesToThisRecord, &QPushButton::clicked, this, [this] { Confirm_Save_Changes(); });
+  connect(cmdClose, &QPushButton::clicked, this, [this] { Close_Record(); });
+  menu->On("mnuSaveChangesToRecord", [this] { Confirm_Save_Changes(); });
+  menu->On("mnuPrintWindow", [this] { mnuPrintWindow_Click(); });
   menu->On("mnuClose", [this] { Close_Record(); });
+  menu->On("mnuChangeTimesDates", [this] { Change_Task_Times(); });
+  menu->On("mnuChangeIdentityInformation", [this] { mnuChangeIdentityInformation_Click(); });
 }
+
+// ---- Showing -----------------------------------------------------------------------------------
 
 void frmTaskInformation::Show_Task_Record(const organizer::ScheduleRecord& record) {
   setWindowTitle(QString::fromStdString(kCaptionHead + record.Task_Name.text()));
@@ -165,10 +210,10 @@ void frmTaskInformation::Show_Task_Record(const organizer::ScheduleRecord& recor
 
   reminder_variables_.Put_Fields_Of(record);
   if (record.Reminder_Status == Value(0)) {
-    cmdStatus->setText(kOff);
+    cmdStatus->setText(Status_Caption(organizer::kReminderOff));
     Enable_Reminder_Frame_Labels(false);
   } else if (record.Reminder_Status == Value(1)) {
-    cmdStatus->setText(kOn);
+    cmdStatus->setText(Status_Caption(organizer::kReminderOn));
     Enable_Reminder_Frame_Labels(true);
   }
   Set_Reminder_Labels(record.Reminder_Interval, record.Interval_Days, record.Interval_Hours,
@@ -180,6 +225,11 @@ void frmTaskInformation::Show_Task_Record(const organizer::ScheduleRecord& recor
 Value frmTaskInformation::Store_Reminder_Variables(const std::string& name, const std::string& verb,
                                                    const Value& value) {
   return reminder_variables_.Store(name, verb, value);
+}
+
+Value frmTaskInformation::Store_Time_Range_Flag(const std::string& verb, const Value& value) {
+  if (verb == "Put") time_range_flag_ = value;
+  return time_range_flag_;
 }
 
 void frmTaskInformation::Set_Reminder_Labels(const Value& Value_, const Value& Interval_Days,
@@ -196,22 +246,134 @@ void frmTaskInformation::Enable_Reminder_Frame_Labels(bool Value_) {
   cmdChange1->setEnabled(Value_);
 }
 
+// ---- Editing -----------------------------------------------------------------------------------
+
 void frmTaskInformation::Set_Record_Changed_Flag(bool Flag) { Record_Changed_Flag = Flag; }
+
+void frmTaskInformation::cmdStatus_Click() {
+  const std::string_view status = organizer::Swapped_Status(cmdStatus->text().toStdString());
+  cmdStatus->setText(Status_Caption(status));
+  Enable_Reminder_Frame_Labels(organizer::Is_Reminder_On(status));
+  Set_Record_Changed_Flag(true);
+}
+
+void frmTaskInformation::txtComments_Change() { Set_Record_Changed_Flag(true); }
 
 void frmTaskInformation::cmdChange1_Click() { organizer::Open_Set_Reminder_Window(organizer::kTaskInformationWindow); }
 
+organizer::MomentLabels frmTaskInformation::From_Labels() const { return {Caption(lblFromDate), Caption(lblFromTime)}; }
+organizer::MomentLabels frmTaskInformation::To_Labels() const { return {Caption(lblToDate), Caption(lblToTime)}; }
+
+void frmTaskInformation::Change_Task_Times() {
+  frmChangeRecordTimes& times = Window<frmChangeRecordTimes>();
+  const std::array<organizer::MomentLabels, frmChangeRecordTimes::kMoments> moments{From_Labels(), To_Labels()};
+  for (std::size_t index = 0; index < moments.size(); ++index) {
+    for (QLabel* date : {times.lblOldDate[index], times.lblDate[index]}) Set_Caption(date, moments[index].Date);
+    for (QLabel* time : {times.lblOldTime[index], times.lblTime[index]}) Set_Caption(time, moments[index].Time);
+  }
+  controls::Show_In_Front(times);
+}
+
+void frmTaskInformation::mnuChangeIdentityInformation_Click() {
+  frmChangeTaskIdInfo& identity = Window<frmChangeTaskIdInfo>();
+  Set_Caption(identity.lblOldRecordName, Caption(lblTaskName));
+  identity.txtNewRecordName->setText(lblTaskName->text());
+  Set_Caption(identity.lblOldRecordDescription, Caption(lblTaskDescription));
+  identity.txtNewRecordDescription->setText(lblTaskDescription->text());
+  Set_Caption(identity.lblCurrentGroupMember, Caption(lblPerson));
+  Set_Caption(identity.lblNewGroupMember, Caption(lblPerson));
+  const unsigned colour = controls::Back_Color(lblColorCode);
+  controls::Set_Back_Color(identity.lblCurrentColorCode, colour);
+  controls::Set_Back_Color(identity.lblNewColorCode, colour);
+  controls::Show_In_Front(identity);
+}
+
+// The palette is shown in front first and told its caller afterwards: it takes the caller's
+// colour once its activation has come through.
+void frmTaskInformation::Activate_Color_Palette() {
+  Set_Record_Changed_Flag(true);
+  frmColorPalette& palette = Window<frmColorPalette>();
+  controls::Show_In_Front(palette);
+  Set_Caption(palette.lblStoreCallingProcedureArgument, std::string(organizer::kTaskInformationSelectColour));
+}
+
+// ---- Saving and closing --------------------------------------------------------------------------
+
+organizer::TaskInformation frmTaskInformation::Read_Task_Information() {
+  organizer::TaskInformation task;
+  task.Record_Number = Caption(lblRecordNumber);
+  task.Task_Name = Caption(lblTaskName);
+  task.Task_Description = Caption(lblTaskDescription);
+  task.Task_Comments = controls::Lines_Of(txtComments);
+  task.Person_Name = Caption(lblPerson);
+  task.From = From_Labels();
+  task.To = To_Labels();
+  task.Time_Range_Flag = Store_Time_Range_Flag("Get");
+  task.Color_Code = Value(static_cast<long long>(controls::Back_Color(lblColorCode)));
+  task.Status = cmdStatus->text().toStdString();
+  for (std::size_t i = 0; i < organizer::ReminderVariables::kNames.size(); ++i) {
+    task.Reminder[i] = Store_Reminder_Variables(std::string(organizer::ReminderVariables::kNames[i]), "Get");
+  }
+  return task;
+}
+
+void frmTaskInformation::Confirm_Save_Changes() {
+  if (platform::Show_Message(organizer::Task_Edit_Message(organizer::kConfirmSaveChanges)) != vbYes) return;
+  Save_Changes_To_Record();
+  Set_Record_Changed_Flag(false);
+}
+
+// The timer keeps off the list of task reminders from before the first reading of the log until
+// the scratch files are done with; the list of the Organizer keeps its old entry until it is
+// built again.
+void frmTaskInformation::Save_Changes_To_Record() {
+  frmScheduler_Reminder& organizer_window = Window<frmScheduler_Reminder>();
+  {
+    const reminders::FlagHold reminders_file(Window<Form1>().Task_Reminder_Flag());
+    organizer::Save_Changes_To_Record(Read_Task_Information());
+    organizer_window.Refresh_Organizer_Screen(organizer::kSaveChangesToRecord);
+    Window<frmLargeCalendar>().Refresh_Calendar_TaskList();
+  }
+  organizer_window.Save_File_Prompt_Flag = 1;
+}
+
 void frmTaskInformation::Close_Record() {
-  // A record changed here (its reminder set anew) cannot be saved from this window until
-  // editing a task comes, so there is nothing to ask yet: Close hides the window as its close
-  // box does, and the change goes with the next task shown.
+  if (Record_Changed_Flag) {
+    const int answer = platform::Show_Message(organizer::Task_Edit_Message(organizer::kSaveOnClose));
+    if (answer == vbCancel) return;
+    if (answer == vbYes) Save_Changes_To_Record();
+    Set_Record_Changed_Flag(false);
+  }
   hide();
 }
 
+void frmTaskInformation::Form_Unload() {
+  if (Record_Changed_Flag &&
+      platform::Show_Message(organizer::Task_Edit_Message(organizer::kSaveOnUnload)) == vbYes) {
+    Save_Changes_To_Record();
+  }
+  Set_Record_Changed_Flag(false);
+}
+
 // The close box unloads the window, which is then only hidden, to be filled again next time.
-// (The question about a changed record comes with editing, as for Close_Record.)
 void frmTaskInformation::closeEvent(QCloseEvent* event) {
+  Form_Unload();
   event->ignore();
   hide();
+}
+
+void frmTaskInformation::mnuPrintWindow_Click() {
+  const unsigned kept_colour = controls::Back_Color(this);
+  const std::array<QPushButton*, 3> hidden{cmdClose, cmdSaveChangesToThisRecord, cmdSelectNewColorCode};
+  std::array<bool, hidden.size()> kept_visible{};
+  for (std::size_t i = 0; i < hidden.size(); ++i) {
+    kept_visible[i] = hidden[i]->isVisibleTo(this);
+    hidden[i]->hide();
+  }
+  controls::Set_Back_Color(this, colours::kWindowBackground);
+  platform::Machine().Print_Window(*this, kPrintDocumentName);
+  controls::Set_Back_Color(this, kept_colour);
+  for (std::size_t i = 0; i < hidden.size(); ++i) hidden[i]->setVisible(kept_visible[i]);
 }
 
 }  // namespace orrivane

@@ -135,24 +135,8 @@ bool Date_Beyond_Month(const TaskMomentBoxes& boxes, int month_length) {
   return !boxes.date.empty() && Parse_Number(boxes.date).value_or(0) > month_length;
 }
 
-// The fields of one moment of a record.
-struct MomentFields {
-  Value ScheduleRecord::* month;
-  Value ScheduleRecord::* date;
-  Value ScheduleRecord::* century;
-  Value ScheduleRecord::* year;
-  Value ScheduleRecord::* hour;
-  Value ScheduleRecord::* minute;
-};
-constexpr MomentFields kStartFields{&ScheduleRecord::Start_Month,   &ScheduleRecord::Start_Date,
-                                    &ScheduleRecord::Start_Century, &ScheduleRecord::Start_Year,
-                                    &ScheduleRecord::Start_Hour,    &ScheduleRecord::Start_Minute};
-constexpr MomentFields kFinishFields{&ScheduleRecord::Finish_Month,   &ScheduleRecord::Finish_Date,
-                                     &ScheduleRecord::Finish_Century, &ScheduleRecord::Finish_Year,
-                                     &ScheduleRecord::Finish_Hour,    &ScheduleRecord::Finish_Minute};
-
 // The boxes of a moment as they stand, its century and year as numbers.
-void Put_Moment(ScheduleRecord& task, const MomentFields& fields, const TaskMomentBoxes& boxes, const TaskYear& year) {
+void Put_Moment(ScheduleRecord& task, const MomentMembers& fields, const TaskMomentBoxes& boxes, const TaskYear& year) {
   task.*fields.month = boxes.month;
   task.*fields.date = boxes.date;
   task.*fields.century = year.century;
@@ -260,9 +244,9 @@ ScheduleRecord New_Task_Record(const NewTaskEntries& entries, const NewTaskCheck
   task.Task_Name = entries.name;
   task.Task_Description = details.description;
   task.Task_Comments = details.comments;
-  Put_Moment(task, kStartFields, start, start_year);
+  Put_Moment(task, kStartMembers, start, start_year);
   task.Time_Range_Flag = range ? 1 : 0;
-  Put_Moment(task, kFinishFields, finish, finish_year);
+  Put_Moment(task, kFinishMembers, finish, finish_year);
   task.Color_Code = details.colour;
   task.Person_Name = entries.person;
   task.Reminder_Status = details.reminder_on ? 1 : 0;

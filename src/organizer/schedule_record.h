@@ -51,6 +51,23 @@ struct ScheduleRecord {
 
 inline constexpr std::size_t kScheduleRecordFields = 28;
 
+// The six fields of one moment of a task, as members of the record: the start (fields 5 to 10)
+// or the finish (12 to 17).
+struct MomentMembers {
+  Value ScheduleRecord::* month;
+  Value ScheduleRecord::* date;
+  Value ScheduleRecord::* century;
+  Value ScheduleRecord::* year;
+  Value ScheduleRecord::* hour;
+  Value ScheduleRecord::* minute;
+};
+inline constexpr MomentMembers kStartMembers{&ScheduleRecord::Start_Month,   &ScheduleRecord::Start_Date,
+                                             &ScheduleRecord::Start_Century, &ScheduleRecord::Start_Year,
+                                             &ScheduleRecord::Start_Hour,    &ScheduleRecord::Start_Minute};
+inline constexpr MomentMembers kFinishMembers{&ScheduleRecord::Finish_Month,   &ScheduleRecord::Finish_Date,
+                                              &ScheduleRecord::Finish_Century, &ScheduleRecord::Finish_Year,
+                                              &ScheduleRecord::Finish_Hour,    &ScheduleRecord::Finish_Minute};
+
 // The kinds of reminder, as Reminder_Interval holds them: one message at one moment, a series
 // counted forward from its first moment, a series counted backward from its last.
 inline constexpr int kOnlyOneReminder = 1;

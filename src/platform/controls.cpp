@@ -1,7 +1,10 @@
 #include "platform/controls.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QFocusEvent>
 #include <QPalette>
+#include <QPlainTextEdit>
 #include <QVariant>
 
 namespace orrivane::controls {
@@ -35,6 +38,26 @@ void Apply(QWidget* widget, QPalette::ColorRole role, const char* property, unsi
   widget->setPalette(palette);
   if (role == QPalette::Window) widget->setAutoFillBackground(true);
 }
+
+// Owned by the control it watches.
+class GotFocus : public QObject {
+ public:
+  GotFocus(QWidget* control, std::function<void()> procedure) : QObject(control), procedure_(std::move(procedure)) {
+    control->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn) {
+      const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+      if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) procedure_();
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  std::function<void()> procedure_;
+};
 
 unsigned Read(const QWidget* widget, const char* property, unsigned fallback) {
   const QVariant v = widget->property(property);
@@ -71,6 +94,19 @@ void Show_In_Front(QWidget& window) {
   window.show();
   window.raise();
   window.activateWindow();
+}
+
+void Enable_Input(QWidget* input, bool enabled) {
+  input->setEnabled(enabled);
+  Set_Box_Color(input, enabled ? kWindowBackground : kButtonFace);
+}
+
+std::string Lines_Of(const QPlainTextEdit* box) {
+  return box->toPlainText().replace(QStringLiteral("\n"), QStringLiteral("\r\n")).toStdString();
+}
+
+void On_Got_Focus(QWidget* control, std::function<void()> procedure) {
+  new GotFocus(control, std::move(procedure));  // owned by the control
 }
 
 }  // namespace orrivane::controls

@@ -6,10 +6,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QString>
+#include <functional>
 #include <string>
 #include <utility>
 
 #include "core/colours.h"
+
+class QPlainTextEdit;
 
 namespace orrivane::controls {
 
@@ -61,9 +64,18 @@ unsigned Back_Color(const QWidget* widget);
 // the button face of a disabled one), read back by Back_Color.
 void Set_Box_Color(QWidget* box, unsigned colour);
 
+// An input enabled with the face of a window's background, or disabled with a button's face.
+void Enable_Input(QWidget* input, bool enabled);
+
+// Runs `procedure` each time the user gives `control` the focus (a click, a tab). Its window coming
+// back to the front, or its own list of choices closing, is no new visit.
+void On_Got_Focus(QWidget* control, std::function<void()> procedure);
+
 // What a box holds, as the program reads it.
 inline std::string Text_Of(const QComboBox* box) { return box->currentText().toStdString(); }
 inline std::string Text_Of(const QLineEdit* box) { return box->text().toStdString(); }
+// A multi-line box's text with its line breaks as the files keep them, CR LF.
+std::string Lines_Of(const QPlainTextEdit* box);
 
 // Shows a window and brings it to the front, active: how every window is asked for.
 void Show_In_Front(QWidget& window);

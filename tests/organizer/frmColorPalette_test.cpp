@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include "organizer/colour_palette.h"
+#include "organizer/frmChangeTaskIdInfo.h"
 #include "organizer/frmTaskInformation.h"
 #include "organizer/new_task_window_test.h"
 #include "organizer/organizer_callers.h"
@@ -148,15 +149,17 @@ TEST_F(frmColorPaletteTest, TheLateLabelServesTheCallerBefore) {
   EXPECT_EQ(controls::Back_Color(Information_Colour()), organizer::kPalette[45]);
 }
 
-TEST_F(frmColorPaletteTest, TheCallerToComeHasItsIdentity) {
+TEST_F(frmColorPaletteTest, TheIdentityWindowHasItsIdentityAndGetsThePickInItsNewColour) {
   EXPECT_EQ(organizer::kChangeTaskInfoSelectColour, "frmChangeTaskInfo.CmdChangeColorCode_Click()");
   EXPECT_EQ(organizer::kTaskInformationSelectColour, "frmTaskInformation.cmdSelectNewColorCode_Click()");
-  const unsigned before = Colour_Choice();
+  QLabel* identity_colour = Window<frmChangeTaskIdInfo>().lblNewColorCode;
+  controls::Set_Back_Color(identity_colour, organizer::kPalette[22]);
   const unsigned information = controls::Back_Color(Information_Colour());
   Open_For(organizer::kChangeTaskInfoSelectColour);
-  Pick(before == organizer::kPalette[30] ? 31 : 30);
+  EXPECT_EQ(Palette_Choice(), organizer::kPalette[22]);
+  Pick(30);
   Click(palette().cmdSelect);
-  EXPECT_EQ(Colour_Choice(), before);
+  EXPECT_EQ(controls::Back_Color(identity_colour), organizer::kPalette[30]);
   EXPECT_EQ(controls::Back_Color(Information_Colour()), information);
 }
 

@@ -442,13 +442,15 @@ TEST_F(frmSetReminderTest, SettingFromTheTaskInformationChangesItsRecord) {
   EXPECT_EQ(Caption(information().lblInterval), "3 Days, 2 Hrs, 30 Min");
 }
 
-TEST_F(frmSetReminderTest, TheTaskInformationStillClosesAfterItsReminderWasSet) {
+TEST_F(frmSetReminderTest, TheTaskInformationOffersTheSetReminderForSavingOnClose) {
   Open_From_Task_Information(Task_With_Series());
   Click_Reminder_Option("optOnlyOneReminder");
   Trigger(reminder(), "cmdOK");
   ASSERT_TRUE(information().Record_Changed());
+  machine().Answer_Next(vbNo, "Save Changes");
   Trigger(information(), "cmdClose");
   EXPECT_FALSE(information().isVisible());
+  EXPECT_FALSE(information().Record_Changed());
 }
 
 TEST_F(frmSetReminderTest, CloseLeavesTheTaskInformationUnchanged) {

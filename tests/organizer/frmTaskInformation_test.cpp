@@ -61,7 +61,7 @@ TEST_F(frmTaskInformationTest, ShowsTheTaskInItsLabels) {
   EXPECT_EQ(Caption(window.lblTaskName), "Dentist");
   EXPECT_EQ(Caption(window.lblTaskDescription), "Checkup");
   EXPECT_EQ(window.txtComments->toPlainText().toStdString(), "Bring X-rays\nand the card");
-  EXPECT_TRUE(window.txtComments->isReadOnly());
+  EXPECT_FALSE(window.txtComments->isReadOnly());
   EXPECT_EQ(Caption(window.lblPerson), "Anna");
   EXPECT_EQ(Caption(window.lblFromDate), "March 05, 2001");
   EXPECT_EQ(Caption(window.lblFromTime), "14:30");
