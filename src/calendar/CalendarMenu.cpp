@@ -32,6 +32,9 @@ void Save_Log() { Window<frmScheduler_Reminder>().Quick_Schedule_File_Save(); }
 void Save_Log_As() { Window<frmScheduler_Reminder>().Activate_Save_File_Window(); }
 void Organizer() { controls::Show_In_Front(Window<frmScheduler_Reminder>()); }
 void Add_New_Task() { Window<frmScheduler_Reminder>().Open_Add_New_Task_Window(); }
+void Add_Non_Task_Reminder() { Window<frmScheduler_Reminder>().Activate_Non_Task_Reminder_Window(); }
+void Change_Non_Task_Reminder() { Window<frmScheduler_Reminder>().Activate_View_NT_Task_Window(); }
+void Delete_Non_Task_Reminder() { Window<frmScheduler_Reminder>().Activate_Delete_NT_Task_Window(); }
 void Find_Time_Length() { controls::Show_In_Front(Window<frmFindDateDifference>()); }
 void Help_Contents() { controls::Show_In_Front(Window<frmHelpContents>()); }
 void License() { controls::Show_In_Front(Window<frmLiscense>()); }
@@ -92,9 +95,9 @@ constexpr CalendarMenuRow kCalendarMenu[] = {
     {"mnuTools", "mnuFindTimeLengthBetweenDates", "mnuFindTimeLengthBetweenDates", "Find Time Length Between Dates",
      "Ctrl+T", Find_Time_Length},
     {"mnuTools", "mnuReminders", "mnuReminders", "Reminders", "", nullptr, kSubmenu},
-    {"mnuReminders", "mnuAdd", "mnuAdd", "Add...", "F6", nullptr, false, kLater},
-    {"mnuReminders", "mnuChange", "mnuChange", "Change...", "Ctrl+F6", nullptr, false, kLater},
-    {"mnuReminders", "mnuDelete", "mnuDelete", "Delete...", "Shift+F6", nullptr, false, kLater},
+    {"mnuReminders", "mnuAdd", "mnuAdd", "Add...", "F6", Add_Non_Task_Reminder},
+    {"mnuReminders", "mnuChange", "mnuChange", "Change...", "Ctrl+F6", Change_Non_Task_Reminder},
+    {"mnuReminders", "mnuDelete", "mnuDelete", "Delete...", "Shift+F6", Delete_Non_Task_Reminder},
     {"", "mnuWindow", "mnuWindow", "&Window", ""},
     {"mnuWindow", "mnuMinimizeToTaskbar", "mnuMinimizeToTaskbar", "Minimize To Taskbar", "F5"},
     {"mnuWindow", "mnuLargeWindow", kAbsent, "Large Window", "F4"},
