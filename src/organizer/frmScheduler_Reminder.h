@@ -161,7 +161,6 @@ class frmScheduler_Reminder : public QMainWindow {
   void Connect_Log();
   void Connect_New_Task();
   void Connect_Delete();
-  void Connect_Non_Task();
   void Connect_Print_Log();
   void Form_Activate();
 

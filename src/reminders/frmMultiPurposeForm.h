@@ -24,6 +24,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/value.h"
 #include "reminders/multi_purpose.h"
 
 namespace orrivane {
@@ -93,7 +94,22 @@ class frmMultiPurposeForm : public QWidget {
   void Prepare_View_Or_Delete_NT_Reminder_Frame(std::string_view Calling_Sub_Origin);
   // Runs once frame 3 stands shown, for the purpose of the origin.
   void Non_Task_Reminder_Frame_Shown(std::string_view Calling_Sub_Origin);
-  // ---- Declarations of frmMultiPurposeFormNonTask.cpp go here ----
+  // The record that is being changed: the number of the reminder chosen last with "Select".
+  Value Selected_NT_Record_Number;
+  // "ON" in bold red with the box checked, "Off" in plain black without.
+  void chkSet_3_Click();
+  // Rewrites the part of lblTimeOfMessage_3 ("Hour", "Minute", "Month", "Date", "Year",
+  // "Century") from its combo; each of the six combos calls it with its own part when chosen.
+  void Change_Full_String(std::string_view Part_To_Change);
+  // Adds a reminder or updates the selected one, as cmdAdd_3's caption says.
+  void cmdAdd_3_Click();
+  void lstMessageToViewOrDel_4_Click();
+  // With "Select" on cmdDelete_4, a double click chooses the reminder as the button does.
+  void lstMessageToViewOrDel_4_DblClick();
+  void cmdDelete_4_Click();
+  // Deletes the chosen reminder, or shows it in frame 3 to change it, as cmdDelete_4's caption
+  // says.
+  void View_Or_Delete_NT_Reminder();
 
   // ==== Frame 5: printing the log (frmMultiPurposeFormPrintLog.cpp) ==============================
   QGroupBox* fraSelectItems_5;
@@ -158,6 +174,7 @@ class frmMultiPurposeForm : public QWidget {
   void Prepare_Delete_Group_Member_Frame(std::string_view Calling_Sub_Origin);
   void Prepare_Delete_View_Task_Frame(std::string_view Calling_Sub_Origin);
   void Prepare_Nothing(std::string_view Calling_Sub_Origin);
+  void Show_NT_Status(bool on);  // frmMultiPurposeFormNonTask.cpp
 
   struct FrameSetUp;
   static const FrameSetUp kFrameSetUps[reminders::kMultiPurposeFrames];

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "core/colours.h"
 #include "core/text.h"
 #include "engine/vocabulary.h"
 #include "organizer/date_time_text.h"
@@ -106,8 +107,9 @@ struct SavedMode {
 };
 constexpr SavedMode kSavedModes[] = {{kAddCaption, kReminderAdded}, {kUpdateCaption, kReminderUpdated}};
 
-constexpr StatusLook kStatusOff{"Off", false, 0};
-constexpr StatusLook kStatusOn{"ON", true, 255};  // red
+constexpr std::uint32_t kBlack = 0;
+constexpr StatusLook kStatusOff{"Off", false, kBlack};
+constexpr StatusLook kStatusOn{"ON", true, colours::kRed};
 
 }  // namespace
 
@@ -139,10 +141,9 @@ Message Non_Task_Date_Message(const std::string& label) {
   return message;
 }
 
-NonTaskReminderRecord Non_Task_Reminder_Of(const Value& number, const Value& status, const std::string& title,
-                                           const std::string& message, const std::string& label) {
-  const std::string stored_title = text::Trim(title).empty() ? std::string(kUntitled) : title;
-  return {number, status, stored_title, message, Cvrt_NTTimeDateStrg_To_24h_Tm(label)};
+NonTaskReminderRecord Non_Task_Reminder_Of(const Value& number, const NonTaskEntry& entry) {
+  const std::string title = text::Trim(entry.title).empty() ? std::string(kUntitled) : entry.title;
+  return {number, entry.status, title, entry.message, Cvrt_NTTimeDateStrg_To_24h_Tm(entry.label)};
 }
 
 Message Non_Task_Saved_Message(std::string_view button_caption) {
@@ -150,6 +151,15 @@ Message Non_Task_Saved_Message(std::string_view button_caption) {
     if (mode.caption == button_caption) return Message_Of(kNonTaskMessages, mode.message);
   }
   return {};
+}
+
+Message Save_Non_Task_Reminder(const std::string& path, const std::string& scratch, std::string_view button_caption,
+                               const Value& Selected_NT_Record_Number, const NonTaskEntry& entry) {
+  // Both modes ask for a new number; an update keeps the number of the record it replaces.
+  const NonTaskReminderRecord record = Non_Task_Reminder_Of(Generate_NTRemin_Record_Number(path), entry);
+  if (button_caption == kAddCaption) Append_Non_Task_Reminder(path, record);
+  if (button_caption == kUpdateCaption) Replace_Non_Task_Reminder(path, scratch, Selected_NT_Record_Number, record);
+  return Non_Task_Saved_Message(button_caption);
 }
 
 StatusLook Non_Task_Status_Look(bool on) { return on ? kStatusOn : kStatusOff; }

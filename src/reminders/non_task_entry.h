@@ -3,6 +3,7 @@
 // label that holds the whole time text ("2:30 PM, March 5, 2001"), each combo rewriting its own
 // part at once; adding checks the date, builds the record and tells what was done. The list of
 // the reminders to choose from, and the number behind a chosen entry.
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,10 +34,17 @@ std::string Change_Full_String(const std::string& label, std::string_view Part_T
 // days in it for the selected year.").
 Message Non_Task_Date_Message(const std::string& label);
 
+// What the entry frame holds.
+struct NonTaskEntry {
+  Value status;  // the check box: 1 on, 0 off
+  std::string title;
+  std::string message;
+  std::string label;  // the moment, "2:30 PM, March 5, 2001"
+};
+
 // The record as the frame's values make it: a title that is empty after trimming becomes
 // "Message", the label's moment goes to the file's 24-hour form.
-NonTaskReminderRecord Non_Task_Reminder_Of(const Value& number, const Value& status, const std::string& title,
-                                           const std::string& message, const std::string& label);
+NonTaskReminderRecord Non_Task_Reminder_Of(const Value& number, const NonTaskEntry& entry);
 
 // The two modes of the entry frame, told by its button's caption and nothing else.
 inline constexpr char kAddCaption[] = "Add";
@@ -45,11 +53,19 @@ inline constexpr char kUpdateCaption[] = "Update";
 // "Reminder has been updated."; the empty message for a caption that is neither mode.
 Message Non_Task_Saved_Message(std::string_view button_caption);
 
+// Writes the entry to the file at `path` as the mode of `button_caption` says: "Add" appends it
+// under a new number, "Update" puts it in the place of the record numbered
+// `Selected_NT_Record_Number`, which keeps its number (through `scratch`). Answers the message
+// that tells it; another caption writes nothing and answers the empty message. The date is the
+// caller's to check first (Non_Task_Date_Message).
+Message Save_Non_Task_Reminder(const std::string& path, const std::string& scratch, std::string_view button_caption,
+                               const Value& Selected_NT_Record_Number, const NonTaskEntry& entry);
+
 // How the status label shows a reminder switched on or off.
 struct StatusLook {
   const char* caption;
   bool bold;
-  int colour;  // a program colour number, 0xBBGGRR
+  std::uint32_t colour;  // a program colour number, 0xBBGGRR
 };
 StatusLook Non_Task_Status_Look(bool on);
 

@@ -91,9 +91,13 @@ NonTaskReminderRecord Find_Non_Task_Reminder(const std::string& path, const Valu
   throw RuntimeFailure(kInputPastEndOfFile);
 }
 
+void Create_Non_Task_Reminder_File(const std::string& path) {
+  SequentialWriter(path, SequentialWriter::Mode::Append).Close();
+}
+
 void Rewrite_Non_Task_Reminders(const std::string& path, const std::string& scratch, const NonTaskReminderEdit& edit,
                                 const std::function<void()>& scratch_complete) {
-  SequentialWriter(path, SequentialWriter::Mode::Append).Close();
+  Create_Non_Task_Reminder_File(path);
   Write_Edited_Copy(path, scratch, edit);
   if (scratch_complete) scratch_complete();
   Write_Edited_Copy(scratch, path, Keep_Every_Record);

@@ -53,6 +53,10 @@ void Append_Non_Task_Reminder(const std::string& path, const NonTaskReminderReco
 void For_Each_Non_Task_Reminder(const std::string& path,
                                 const std::function<void(const NonTaskReminderRecord&)>& visit);
 
+// Opens the file at `path` for appending and closes it: a missing file is created empty, a
+// present one stays as it is.
+void Create_Non_Task_Reminder_File(const std::string& path);
+
 // The number for a new record: one more than the highest NT_Record_Number of the file at
 // `path`, 1 for a missing or empty file. Numbers are never compacted, so the number of a
 // deleted last record is given out again and that of an earlier one is not.

@@ -104,8 +104,13 @@ TEST(NonTaskDateMessage, OtherMonthsTellTheirLength) {
   EXPECT_EQ(Non_Task_Date_Message("2:30 PM, June 31, 2001").text, "June only has 30 days in it.");
 }
 
+NonTaskEntry Entry(const std::string& title, const std::string& message = "", int status = 1,
+                   const std::string& label = kLabel) {
+  return {status, title, message, label};
+}
+
 TEST(NonTaskReminderOf, TheRecordInTheFilesForm) {
-  const NonTaskReminderRecord r = Non_Task_Reminder_Of(3, 1, "Bank", "Call.", kLabel);
+  const NonTaskReminderRecord r = Non_Task_Reminder_Of(3, Entry("Bank", "Call."));
   EXPECT_EQ(r.NT_Record_Number, Value(3));
   EXPECT_EQ(r.NT_Status, Value(1));
   EXPECT_EQ(r.NT_Title.text(), "Bank");
@@ -114,9 +119,46 @@ TEST(NonTaskReminderOf, TheRecordInTheFilesForm) {
 }
 
 TEST(NonTaskReminderOf, ATitleOfBlanksIsStoredAsMessage) {
-  EXPECT_EQ(Non_Task_Reminder_Of(1, 1, "", "", kLabel).NT_Title.text(), "Message");
-  EXPECT_EQ(Non_Task_Reminder_Of(1, 1, "   ", "", kLabel).NT_Title.text(), "Message");
-  EXPECT_EQ(Non_Task_Reminder_Of(1, 0, "  Bank ", "", kLabel).NT_Title.text(), "  Bank ");  // as typed
+  EXPECT_EQ(Non_Task_Reminder_Of(1, Entry("")).NT_Title.text(), "Message");
+  EXPECT_EQ(Non_Task_Reminder_Of(1, Entry("   ")).NT_Title.text(), "Message");
+  EXPECT_EQ(Non_Task_Reminder_Of(1, Entry("  Bank ")).NT_Title.text(), "  Bank ");  // as typed
+}
+
+TEST(SaveNonTaskReminder, AddingAppendsUnderTheNextNumberAndCreatesTheFile) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  const std::string scratch = folder.file("NTRemin.tmp");
+  EXPECT_EQ(Save_Non_Task_Reminder(path, scratch, kAddCaption, {}, Entry("", "Call the bank about the loan.", 1,
+                                                                           "9:05 AM, March 5, 2001")),
+            Non_Task_Saved_Message(kAddCaption));
+  EXPECT_EQ(Save_Non_Task_Reminder(path, scratch, kAddCaption, {}, Entry("Backup", "", 0)),
+            Non_Task_Saved_Message(kAddCaption));
+  EXPECT_EQ(testing::Read_Bytes(path),
+            "1\r\n1\r\n\"Message\"\r\n\"Call the bank about the loan.\"\r\n\"09:05, March 5, 2001\"\r\n"
+            "2\r\n0\r\n\"Backup\"\r\n\"\"\r\n\"14:30, March 5, 2001\"\r\n");
+}
+
+TEST(SaveNonTaskReminder, UpdatingKeepsThePlaceAndTheNumberOfTheSelectedRecord) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  const std::string scratch = folder.file("NTRemin.tmp");
+  samples::Write_Messages(path, {samples::Message_At(1, "A", "", "09:05, March 5, 2001"),
+                                 samples::Message_At(2, "B", "", "09:05, March 5, 2001"),
+                                 samples::Message_At(3, "C", "", "09:05, March 5, 2001")});
+  EXPECT_EQ(Save_Non_Task_Reminder(path, scratch, kUpdateCaption, "2", Entry(" ", "Changed", 0)),
+            Non_Task_Saved_Message(kUpdateCaption));
+  EXPECT_EQ(Non_Task_List_Items(path), (std::vector<std::string>{"1 - A, 9:05 AM, March 5, 2001",
+                                                                 "2 - Message, 2:30 PM, March 5, 2001",
+                                                                 "3 - C, 9:05 AM, March 5, 2001"}));
+  EXPECT_EQ(Find_Non_Task_Reminder(path, 2).NT_Status, Value(0));
+  EXPECT_FALSE(File_Exists(scratch));
+}
+
+TEST(SaveNonTaskReminder, AnotherCaptionWritesNothing) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  EXPECT_TRUE(Save_Non_Task_Reminder(path, folder.file("NTRemin.tmp"), "add", {}, Entry("Bank")).empty());
+  EXPECT_FALSE(File_Exists(path));
 }
 
 TEST(NonTaskSavedMessage, EachModeSaysItsOwn) {
@@ -134,11 +176,11 @@ TEST(NonTaskStatusLook, OnIsBoldRedOffIsPlainBlack) {
   const StatusLook on = Non_Task_Status_Look(true);
   EXPECT_STREQ(on.caption, "ON");
   EXPECT_TRUE(on.bold);
-  EXPECT_EQ(on.colour, 255);
+  EXPECT_EQ(on.colour, 255u);
   const StatusLook off = Non_Task_Status_Look(false);
   EXPECT_STREQ(off.caption, "Off");
   EXPECT_FALSE(off.bold);
-  EXPECT_EQ(off.colour, 0);
+  EXPECT_EQ(off.colour, 0u);
 }
 
 // ---- Choosing -------------------------------------------------------------------------------------
