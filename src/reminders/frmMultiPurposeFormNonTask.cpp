@@ -22,14 +22,8 @@ namespace orrivane {
 
 namespace {
 
-using multi_purpose_frames::kBoxHeight;
-using multi_purpose_frames::Frame_Height;
-using multi_purpose_frames::Frame_Width;
-using multi_purpose_frames::kButtonHeight;
-using multi_purpose_frames::kButtonWidth;
-using multi_purpose_frames::kMargin;
-using multi_purpose_frames::kRowHeight;
-using multi_purpose_frames::Make_Placed;
+// The frames' common measures and their way of making controls.
+using namespace multi_purpose_frames;
 
 // ---- Frame 3's geometry, in pixels ----------------------------------------------------------------
 constexpr int kWidth3 = Frame_Width(reminders::kNonTaskRemindersFrame);

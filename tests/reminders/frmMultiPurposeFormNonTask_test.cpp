@@ -8,7 +8,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
-#include <algorithm>
 
 #include "organizer/working_files.h"
 #include "reminders/frmMultiPurposeForm.h"
@@ -22,8 +21,7 @@ namespace {
 using platform::vbOK;
 using platform::vbYes;
 using reminders::samples::Message_At;
-using testing::Golden_Cases;
-using testing::GoldenCase;
+using testing::Golden_Case;
 
 using Entries = std::vector<std::string>;
 
@@ -279,17 +277,6 @@ TEST_F(NonTaskReminderWindowTest, ASecondAddStartsFromTheValuesOfTheFirstAtAFres
 
 // ---- The worked example, written through the windows ------------------------------------------
 
-GoldenCase Worked_Example() {
-  const auto cases = Golden_Cases("non_task_reminders");
-  const auto found =
-      std::find_if(cases.begin(), cases.end(), [](const GoldenCase& golden) { return golden.name == "worked_example"; });
-  if (found == cases.end()) {
-    ADD_FAILURE() << "the golden case worked_example is missing";
-    return {};
-  }
-  return *found;
-}
-
 // Four reminders added, the fourth switched off; the second and third deleted.
 TEST_F(NonTaskReminderWindowTest, TheWorkedExampleStandsByteForByte) {
   Start_At(2001, 3, 5, 8, 0, 0);
@@ -317,7 +304,7 @@ TEST_F(NonTaskReminderWindowTest, TheWorkedExampleStandsByteForByte) {
                            "3 - Third, 9:05 AM, March 5, 2001", "4 - Backup, 5:45 PM, December 31, 2001"}));
   Delete_Entry("2 - Second, 9:05 AM, March 5, 2001");
   Delete_Entry("3 - Third, 9:05 AM, March 5, 2001");
-  EXPECT_EQ(Reminder_File(), Worked_Example().Expected());
+  EXPECT_EQ(Reminder_File(), Golden_Case("non_task_reminders", "worked_example").Expected());
   EXPECT_FALSE(File_Present(organizer::kNonTaskReminderScratchFile));
 }
 
@@ -460,6 +447,46 @@ TEST_F(NonTaskReminderWindowTest, OnlyTheLastNumberIsGivenOutAgain) {
   Add_Expecting_Success();
   EXPECT_EQ(reminders::Non_Task_List_Items(Path(organizer::kNonTaskReminderFile)),
             (Entries{"1 - A, 9:05 AM, March 5, 2001", "3 - C, 9:05 AM, March 5, 2001", "4 - New, 8:00 AM, March 5, 2001"}));
+}
+
+// ---- The flag of NTRemin.dat ------------------------------------------------------------------------
+
+TEST_F(NonTaskReminderWindowTest, EveryWriterTakesTheFlagAndGivesItBack) {
+  Write_File(organizer::kNonTaskReminderFile, kTwoRecords);
+  Start_At(2001, 3, 5, 8, 0, 0);
+  Open_Add();
+  Add_Expecting_Success();
+  EXPECT_FALSE(main().NTRemin_Is_In_Use(false, "Evaluate"));
+  Open_Change_List();
+  EXPECT_FALSE(main().NTRemin_Is_In_Use(false, "Evaluate"));
+  Double_Click_Entry("4 - Backup, 5:45 PM, December 31, 2001");
+  EXPECT_FALSE(main().NTRemin_Is_In_Use(false, "Evaluate"));
+  machine().Answer_Next(vbOK, "Changes Saved");
+  Click(form().cmdAdd_3);
+  EXPECT_FALSE(main().NTRemin_Is_In_Use(false, "Evaluate"));
+  Open_Delete_List();
+  Delete_Entry("4 - Backup, 5:45 PM, December 31, 2001");
+  EXPECT_FALSE(main().NTRemin_Is_In_Use(false, "Evaluate"));
+}
+
+// Nothing can free a flag held while the user adds: waiting would never end.
+TEST_F(NonTaskReminderWindowTest, AddingUnderAFlagHeldForeverEndsTheProgramAndWritesNothing) {
+  Start_At(2001, 3, 5, 8, 0, 0);
+  Open_Add();
+  main().NTRemin_Is_In_Use(true, "");
+  machine().Answer_Next(vbOK, "Orrivane");
+  Until_The_End([this] { Click(form().cmdAdd_3); });
+  EXPECT_EQ(machine().Messages().back().text, "Run-time error '55':\n\nFile already open");
+  EXPECT_FALSE(File_Present(organizer::kNonTaskReminderFile));
+}
+
+TEST_F(NonTaskReminderWindowTest, TheListIsReadUnderTheFlag) {
+  Write_File(organizer::kNonTaskReminderFile, kTwoRecords);
+  Start_At(2001, 3, 5, 8, 0, 0);
+  main().NTRemin_Is_In_Use(true, "");
+  machine().Answer_Next(vbOK, "Orrivane");
+  Until_The_End([this] { Press_On_Calendar("Shift+F6"); });
+  EXPECT_EQ(machine().Messages().back().text, "Run-time error '55':\n\nFile already open");
 }
 
 // ---- Firing and lasting ----------------------------------------------------------------------------
