@@ -173,6 +173,26 @@ TEST_F(NonTaskReminderWindowTest, F6FromTheMainWindowToo) {
   EXPECT_EQ(Moment(), "9:05 AM, March 5, 2001");
 }
 
+TEST_F(NonTaskReminderWindowTest, CtrlF6AndShiftF6FromTheMainWindowToo) {
+  Write_File(organizer::kNonTaskReminderFile, kTwoRecords);
+  Start_At(2001, 3, 5, 9, 5, 0);
+  for (const char* name : {"mnuAdd", "mnuChange", "mnuDelete"}) {
+    EXPECT_TRUE(Menu(main(), name)->isEnabled()) << name;
+    EXPECT_TRUE(Menu(large(), name)->isEnabled()) << name;
+  }
+  Press_Keys(large(), QKeySequence(Qt::Key_F4));
+  ASSERT_TRUE(main().isVisible());
+  Press_Keys(main(), QKeySequence("Ctrl+F6"));
+  Process_Events();
+  ASSERT_TRUE(form().isVisible());
+  EXPECT_EQ(Title(form()), kChangeTitle);
+  EXPECT_EQ(form().cmdDelete_4->text().toStdString(), "Select");
+  Press_Keys(main(), QKeySequence("Shift+F6"));
+  Process_Events();
+  EXPECT_EQ(Title(form()), kDeleteTitle);
+  EXPECT_EQ(List().size(), 2u);
+}
+
 TEST_F(NonTaskReminderWindowTest, EachBoxRewritesItsPartOfTheMomentAtOnce) {
   Start_At(2001, 3, 5, 14, 30, 0);
   Open_Add();
