@@ -14,6 +14,7 @@
 #include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
+#include "reminders/frmMultiPurposeForm.h"
 #include "reminders/frmReminderWindow.h"
 #include "reminders/reminder_tick.h"
 
@@ -84,6 +85,11 @@ std::optional<Value> Chart_Cell_Owner(frmScheduler_Reminder& organizer, const Va
   return std::nullopt;
 }
 
+// The task chosen in the multi-purpose window's list.
+std::optional<Value> Multi_Purpose_Task(frmScheduler_Reminder&, const Value&) {
+  return Number_Of_Entry(QString::fromStdString(Window<frmMultiPurposeForm>().Chosen_Task()));
+}
+
 // The task of the reminder window: the chosen entry of its list where the list stands, else the
 // task it shows alone.
 std::optional<Value> Reminder_Window_Task(frmScheduler_Reminder&, const Value&) {
@@ -106,6 +112,7 @@ constexpr NumberRoute kNumberRoutes[] = {
     {organizer::kCboAppointmentsClick, Chosen_Appointment},
     {organizer::kLblChartHistoryListClick, Chart_Cell_Owner},
     {organizer::kReminderWindowMoreDetails, Reminder_Window_Task},
+    {organizer::kMultiPurposeDelete1, Multi_Purpose_Task},
 };
 
 }  // namespace

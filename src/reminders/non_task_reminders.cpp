@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/runtime_failure.h"
 #include "core/text.h"
 #include "organizer/date_time_text.h"
 
@@ -11,6 +12,31 @@ namespace {
 
 std::array<Value*, 5> Fields_In_File_Order(NonTaskReminderRecord& r) {
   return {&r.NT_Record_Number, &r.NT_Status, &r.NT_Title, &r.NT_Message, &r.NT_Time_String};
+}
+
+void Write_Non_Task_Reminder(SequentialWriter& file, const NonTaskReminderRecord& record) {
+  for (const Value* field : {&record.NT_Record_Number, &record.NT_Status, &record.NT_Title, &record.NT_Message,
+                             &record.NT_Time_String}) {
+    file.Write_Line({*field});
+  }
+}
+
+// Record numbers are compared as numbers, 0 added to both sides.
+bool Same_Number(const NonTaskReminderRecord& record, const Value& number) {
+  return record.NT_Record_Number.plus_zero() == number.plus_zero();
+}
+
+std::optional<NonTaskReminderRecord> Keep_Every_Record(const NonTaskReminderRecord& record) { return record; }
+
+// Writes what `edit` answers for each record of `from` to `to`, which is replaced. Both files
+// are closed when this returns.
+void Write_Edited_Copy(const std::string& from, const std::string& to, const NonTaskReminderEdit& edit) {
+  NonTaskReminderReader source(from);
+  SequentialWriter target(to);
+  NonTaskReminderRecord record;
+  while (source.Next(record)) {
+    if (const std::optional<NonTaskReminderRecord> kept = edit(record)) Write_Non_Task_Reminder(target, *kept);
+  }
 }
 
 struct FontStep {
@@ -37,10 +63,62 @@ bool NonTaskReminderReader::Next(NonTaskReminderRecord& record) {
 
 void Append_Non_Task_Reminder(const std::string& path, const NonTaskReminderRecord& record) {
   SequentialWriter file(path, SequentialWriter::Mode::Append);
-  for (const Value* field : {&record.NT_Record_Number, &record.NT_Status, &record.NT_Title, &record.NT_Message,
-                             &record.NT_Time_String}) {
-    file.Write_Line({*field});
+  Write_Non_Task_Reminder(file, record);
+}
+
+void For_Each_Non_Task_Reminder(const std::string& path,
+                                const std::function<void(const NonTaskReminderRecord&)>& visit) {
+  std::optional<NonTaskReminderReader> file = NonTaskReminderReader::Open_If_Present(path);
+  if (!file) return;
+  NonTaskReminderRecord record;
+  while (file->Next(record)) visit(record);
+}
+
+Value Generate_NTRemin_Record_Number(const std::string& path) {
+  Value maximum = 0;
+  For_Each_Non_Task_Reminder(path, [&maximum](const NonTaskReminderRecord& record) {
+    if (Compare(record.NT_Record_Number, maximum) >= 0) maximum = record.NT_Record_Number;
+  });
+  return maximum.number() + 1;
+}
+
+NonTaskReminderRecord Find_Non_Task_Reminder(const std::string& path, const Value& number) {
+  NonTaskReminderReader file(path);
+  NonTaskReminderRecord record;
+  while (file.Next(record)) {
+    if (Same_Number(record, number)) return record;
   }
+  throw RuntimeFailure(kInputPastEndOfFile);
+}
+
+void Create_Non_Task_Reminder_File(const std::string& path) {
+  SequentialWriter(path, SequentialWriter::Mode::Append).Close();
+}
+
+void Rewrite_Non_Task_Reminders(const std::string& path, const std::string& scratch, const NonTaskReminderEdit& edit,
+                                const std::function<void()>& scratch_complete) {
+  Create_Non_Task_Reminder_File(path);
+  Write_Edited_Copy(path, scratch, edit);
+  if (scratch_complete) scratch_complete();
+  Write_Edited_Copy(scratch, path, Keep_Every_Record);
+  Delete_File(scratch);
+}
+
+void Replace_Non_Task_Reminder(const std::string& path, const std::string& scratch, const Value& number,
+                               const NonTaskReminderRecord& record) {
+  NonTaskReminderRecord replacement = record;
+  replacement.NT_Record_Number = number.plus_zero();  // a number in the file, bare, however it was chosen
+  Rewrite_Non_Task_Reminders(path, scratch, [&](const NonTaskReminderRecord& standing) {
+    return Same_Number(standing, number) ? replacement : standing;
+  });
+}
+
+void Drop_Non_Task_Reminder(const std::string& path, const std::string& scratch, const Value& number) {
+  Rewrite_Non_Task_Reminders(path, scratch,
+                             [&](const NonTaskReminderRecord& standing) -> std::optional<NonTaskReminderRecord> {
+                               if (Same_Number(standing, number)) return std::nullopt;
+                               return standing;
+                             });
 }
 
 TimeAndDate Cut_Time_And_Date(const std::string& Time_Date_String) {

@@ -10,6 +10,7 @@
 //
 // And the texts the reminder windows make of such a moment.
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -46,6 +47,46 @@ class NonTaskReminderReader {
 
 // Appends a record, five lines, to the file at `path`, creating it if need be.
 void Append_Non_Task_Reminder(const std::string& path, const NonTaskReminderRecord& record);
+
+// Hands every record of the file at `path` to `visit`, in file order; a missing file, or a
+// name that is no plain file, has none.
+void For_Each_Non_Task_Reminder(const std::string& path,
+                                const std::function<void(const NonTaskReminderRecord&)>& visit);
+
+// Opens the file at `path` for appending and closes it: a missing file is created empty, a
+// present one stays as it is.
+void Create_Non_Task_Reminder_File(const std::string& path);
+
+// The number for a new record: one more than the highest NT_Record_Number of the file at
+// `path`, 1 for a missing or empty file. Numbers are never compacted, so the number of a
+// deleted last record is given out again and that of an earlier one is not.
+Value Generate_NTRemin_Record_Number(const std::string& path);
+
+// The record of the file at `path` whose number is `number` (compared as numbers). Reading to a
+// record that isn't there reads past the end: the failure 62.
+NonTaskReminderRecord Find_Non_Task_Reminder(const std::string& path, const Value& number);
+
+// ---- Rewriting NTRemin.dat in place ---------------------------------------------------------
+
+// What a rewrite puts in the place of a record: the record itself to keep it, another record to
+// replace it, nothing to drop it.
+using NonTaskReminderEdit = std::function<std::optional<NonTaskReminderRecord>(const NonTaskReminderRecord&)>;
+
+// The rewrite protocol. The file at `path` is created if it is missing; then what `edit` answers
+// for each of its records is written to `scratch`, which is replaced and closed when complete;
+// `scratch_complete`, when given, runs there; then the scratch file is copied back over `path`
+// record by record and deleted. The source keeps its name and is truncated only after the
+// scratch file is complete. A file left with no records is empty.
+void Rewrite_Non_Task_Reminders(const std::string& path, const std::string& scratch, const NonTaskReminderEdit& edit,
+                                const std::function<void()>& scratch_complete = {});
+
+// Puts `record` in the place of the record numbered `number`, which keeps that number (written
+// as a number, "1" as 1) whatever `record` carries; the other records stand as they were.
+void Replace_Non_Task_Reminder(const std::string& path, const std::string& scratch, const Value& number,
+                               const NonTaskReminderRecord& record);
+
+// Leaves the record numbered `number` out of the file.
+void Drop_Non_Task_Reminder(const std::string& path, const std::string& scratch, const Value& number);
 
 // ---- The moment of a non-task reminder as text ----------------------------------------------------
 

@@ -2,7 +2,6 @@
 // its reminder set through the reminder windows, the task added; the record stands byte for
 // byte.
 #include <QPlainTextEdit>
-#include <algorithm>
 
 #include "organizer/set_reminder_window_test.h"
 #include "organizer/working_files.h"
@@ -11,20 +10,11 @@
 namespace orrivane {
 namespace {
 
-using testing::Golden_Cases;
+using testing::Golden_Case;
 using testing::GoldenCase;
 using testing::SetReminderWindowTest;
 
-GoldenCase Dentists_Series() {
-  const auto cases = Golden_Cases("task_reminder_record");
-  const auto found = std::find_if(cases.begin(), cases.end(),
-                                  [](const GoldenCase& golden) { return golden.name == "dentist_series"; });
-  if (found == cases.end()) {
-    ADD_FAILURE() << "the golden case dentist_series is missing";
-    return {};
-  }
-  return *found;
-}
+GoldenCase Dentists_Series() { return Golden_Case("task_reminder_record", "dentist_series"); }
 
 class TaskReminderRecordTest : public SetReminderWindowTest {
  protected:

@@ -3,8 +3,6 @@
 // in 28 lines.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "organizer/log_file.h"
 #include "organizer/log_samples.h"
 #include "support/golden.h"
@@ -13,19 +11,10 @@ namespace orrivane::organizer {
 namespace {
 
 using namespace samples;
-using orrivane::testing::Golden_Cases;
+using orrivane::testing::Golden_Case;
 using orrivane::testing::GoldenCase;
 
-GoldenCase Worked_Example() {
-  const auto cases = Golden_Cases("log_save_as");
-  const auto found =
-      std::find_if(cases.begin(), cases.end(), [](const GoldenCase& golden) { return golden.name == "worked_example"; });
-  if (found == cases.end()) {
-    ADD_FAILURE() << "the golden case worked_example is missing";
-    return {};
-  }
-  return *found;
-}
+GoldenCase Worked_Example() { return Golden_Case("log_save_as", "worked_example"); }
 
 TEST(WorkedExample, AppendedTaskAndNewMarkerStandByteForByte) {
   TempFolder folder;

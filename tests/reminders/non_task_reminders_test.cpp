@@ -73,6 +73,141 @@ TEST(NonTaskReminderFile, AMissingFileIsNoFailureWhereItMayBeMissing) {
   EXPECT_FALSE(empty->Next(r));
 }
 
+// ---- Numbering ----------------------------------------------------------------------------
+
+TEST(GenerateNTReminRecordNumber, AMissingOrEmptyFileGivesOne) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  EXPECT_EQ(Generate_NTRemin_Record_Number(path), Value(1));
+  EXPECT_FALSE(File_Exists(path));  // asking for a number creates nothing
+  Write_Bytes(path, "");
+  EXPECT_EQ(Generate_NTRemin_Record_Number(path), Value(1));
+}
+
+TEST(GenerateNTReminRecordNumber, TheHighestNumberWhereverItStandsAndNoGapFilled) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  Write_Bytes(path, kTwoRecords);
+  EXPECT_EQ(Generate_NTRemin_Record_Number(path), Value(5));
+  samples::Write_Messages(path, {samples::Message_At(9, "A", "", "09:05, March 5, 2001"),
+                                 samples::Message_At(2, "B", "", "09:05, March 5, 2001")});
+  EXPECT_EQ(Generate_NTRemin_Record_Number(path), Value(10));
+}
+
+TEST(GenerateNTReminRecordNumber, ATruncatedRecordIsInputPastEndOfFile) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  Write_Bytes(path, std::string(kTwoRecords) + "5\r\n1\r\n");
+  EXPECT_EQ(Failure_Of([&] { Generate_NTRemin_Record_Number(path); }), kInputPastEndOfFile);
+}
+
+// Records 1, 2, 3: deleting 3 and adding gives 3 again; deleting 2 and adding gives 4.
+TEST(GenerateNTReminRecordNumber, OnlyTheLastNumberIsGivenOutAgainAfterADeletion) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  const std::string scratch = folder.file("NTRemin.tmp");
+  const auto three = [&] {
+    samples::Write_Messages(path, {samples::Message_At(1, "A", "", "09:05, March 5, 2001"),
+                                   samples::Message_At(2, "B", "", "09:05, March 5, 2001"),
+                                   samples::Message_At(3, "C", "", "09:05, March 5, 2001")});
+  };
+  three();
+  Drop_Non_Task_Reminder(path, scratch, 3);
+  EXPECT_EQ(Generate_NTRemin_Record_Number(path), Value(3));
+  three();
+  Drop_Non_Task_Reminder(path, scratch, 2);
+  EXPECT_EQ(Generate_NTRemin_Record_Number(path), Value(4));
+}
+
+// ---- Finding and rewriting ---------------------------------------------------------------------
+
+TEST(FindNonTaskReminder, TheRecordOfTheNumberComparedAsNumbers) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  Write_Bytes(path, kTwoRecords);
+  EXPECT_EQ(Find_Non_Task_Reminder(path, "4").NT_Title.text(), "Backup");
+  EXPECT_EQ(Find_Non_Task_Reminder(path, 1).NT_Message.text(), "Call the bank about the loan.");
+  EXPECT_EQ(Failure_Of([&] { Find_Non_Task_Reminder(path, 2); }), kInputPastEndOfFile);
+  EXPECT_EQ(Failure_Of([&] { Find_Non_Task_Reminder(folder.file("none.dat"), 1); }), kFileNotFound);
+}
+
+TEST(ReplaceNonTaskReminder, TheRecordKeepsItsPlaceAndItsNumber) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  const std::string scratch = folder.file("NTRemin.tmp");
+  Write_Bytes(path, kTwoRecords);
+  Replace_Non_Task_Reminder(path, scratch, "1",
+                            samples::Message_At(7, "Bank", "Call at nine.", "09:00, March 6, 2001", 0));
+  EXPECT_EQ(Read_Bytes(path),
+            "1\r\n0\r\n\"Bank\"\r\n\"Call at nine.\"\r\n\"09:00, March 6, 2001\"\r\n"
+            "4\r\n0\r\n\"Backup\"\r\n\"Copy the log to the other disk.\"\r\n\"17:45, December 31, 2001\"\r\n");
+  EXPECT_FALSE(File_Exists(scratch));
+}
+
+TEST(DropNonTaskReminder, TheOthersStandAsTheyWere) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  const std::string scratch = folder.file("NTRemin.tmp");
+  Write_Bytes(path, kTwoRecords);
+  Drop_Non_Task_Reminder(path, scratch, 1);
+  EXPECT_EQ(Read_Bytes(path),
+            "4\r\n0\r\n\"Backup\"\r\n\"Copy the log to the other disk.\"\r\n\"17:45, December 31, 2001\"\r\n");
+  Drop_Non_Task_Reminder(path, scratch, 99);  // no such record: nothing changes
+  EXPECT_EQ(Generate_NTRemin_Record_Number(path), Value(5));
+  EXPECT_FALSE(File_Exists(scratch));
+}
+
+TEST(DropNonTaskReminder, DeletingTheLastRecordLeavesAnEmptyFile) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  const std::string scratch = folder.file("NTRemin.tmp");
+  samples::Write_Messages(path, {samples::Message_At(1, "Only", "", "09:05, March 5, 2001")});
+  Drop_Non_Task_Reminder(path, scratch, 1);
+  ASSERT_TRUE(File_Exists(path));
+  EXPECT_EQ(Read_Bytes(path), "");
+}
+
+TEST(RewriteNonTaskReminders, AMissingFileIsCreatedEmpty) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  Drop_Non_Task_Reminder(path, folder.file("NTRemin.tmp"), 1);
+  ASSERT_TRUE(File_Exists(path));
+  EXPECT_EQ(Read_Bytes(path), "");
+}
+
+TEST(RewriteNonTaskReminders, TheSourceStandsWholeUntilTheScratchFileIsComplete) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  const std::string scratch = folder.file("NTRemin.tmp");
+  Write_Bytes(path, kTwoRecords);
+  struct Stopped {};
+  EXPECT_THROW(Rewrite_Non_Task_Reminders(
+                   path, scratch, [](const NonTaskReminderRecord&) { return std::optional<NonTaskReminderRecord>(); },
+                   [&] {
+                     EXPECT_EQ(Read_Bytes(scratch), "");
+                     throw Stopped{};
+                   }),
+               Stopped);
+  EXPECT_EQ(Read_Bytes(path), kTwoRecords);
+}
+
+TEST(RewriteNonTaskReminders, ATruncatedRecordLeavesTheSourceAlone) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  const std::string cut = std::string(kTwoRecords) + "5\r\n1\r\n";
+  Write_Bytes(path, cut);
+  EXPECT_EQ(Failure_Of([&] { Drop_Non_Task_Reminder(path, folder.file("NTRemin.tmp"), 1); }), kInputPastEndOfFile);
+  EXPECT_EQ(Read_Bytes(path), cut);
+}
+
+TEST(RewriteNonTaskReminders, NumbersAreComparedAsNumbers) {
+  TempFolder folder;
+  const std::string path = folder.file("NTRemin.dat");
+  Write_Bytes(path, "\"04\",1,\"Quoted\",\"\",\"09:05, March 5, 2001\"\r\n" + std::string(kTwoRecords));
+  Drop_Non_Task_Reminder(path, folder.file("NTRemin.tmp"), 4);
+  EXPECT_EQ(Read_Bytes(path), "1\r\n1\r\n\"Message\"\r\n\"Call the bank about the loan.\"\r\n\"09:05, March 5, 2001\"\r\n");
+}
+
 TEST(NonTaskReminderTimes, TheMomentIsCutAtItsFirstComma) {
   const TimeAndDate cut = Cut_Time_And_Date("09:05, March 5, 2001");
   EXPECT_EQ(cut.time, "09:05");

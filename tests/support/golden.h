@@ -75,6 +75,18 @@ inline std::vector<GoldenCase> Golden_Cases(const std::string& suite) {
   return cases;
 }
 
+// The case of a suite named `name`; fails the test, and answers an empty case, when it is missing.
+inline GoldenCase Golden_Case(const std::string& suite, const std::string& name) {
+  const std::vector<GoldenCase> cases = Golden_Cases(suite);
+  const auto found =
+      std::find_if(cases.begin(), cases.end(), [&name](const GoldenCase& golden) { return golden.name == name; });
+  if (found == cases.end()) {
+    ADD_FAILURE() << "the golden case " << name << " of " << suite << " is missing";
+    return {};
+  }
+  return *found;
+}
+
 // The case's folder name as the name of its data row (letters, digits and underscores).
 inline std::string Golden_Case_Name(const ::testing::TestParamInfo<GoldenCase>& info) {
   std::string name = info.param.name;
