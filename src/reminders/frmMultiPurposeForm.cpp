@@ -3,7 +3,7 @@
 // delete or to view.
 #include "reminders/frmMultiPurposeForm.h"
 
-#include <QSignalBlocker>
+#include <algorithm>
 #include <vector>
 
 #include "organizer/frmScheduler_Reminder.h"
@@ -55,15 +55,29 @@ constexpr QPushButton* frmMultiPurposeForm::* kDefaultButtons[] = {
 // The size of a frame, and of the window while the frame shows, in pixels.
 QSize Frame_Pixels(MultiPurposeFrame frame) { return {Frame_Width(frame), Frame_Height(frame)}; }
 
+// The width of the buttons of the bottom row: two of them fit the narrowest frame.
+int Bottom_Button_Width(MultiPurposeFrame frame) { return std::min(kButtonWidth, (Frame_Width(frame) - 3 * kMargin) / 2); }
+
 // The place of cmdCancel(k) in the bottom right corner of its frame.
 QRect Cancel_Place(MultiPurposeFrame frame) {
-  const QSize size = Frame_Pixels(frame);
-  return {size.width() - kMargin - kButtonWidth, size.height() - kMargin - kButtonHeight, kButtonWidth,
-          kButtonHeight};
+  const int width = Bottom_Button_Width(frame);
+  return {Frame_Width(frame) - kMargin - width, Frame_Height(frame) - kMargin - kButtonHeight, width, kButtonHeight};
 }
 
 // Beside cmdCancel(k), to its left.
-QRect Beside_Cancel(MultiPurposeFrame frame) { return Cancel_Place(frame).translated(-kButtonWidth - kMargin, 0); }
+QRect Beside_Cancel(MultiPurposeFrame frame) {
+  return Cancel_Place(frame).translated(-Bottom_Button_Width(frame) - kMargin, 0);
+}
+
+// The focus goes to the frame's first control that Tab reaches, in the order they were made.
+void Focus_First_Control(QWidget* frame) {
+  for (QWidget* control : frame->findChildren<QWidget*>()) {
+    if ((control->focusPolicy() & Qt::TabFocus) != 0 && control->isEnabled() && control->isVisibleTo(frame)) {
+      control->setFocus();
+      return;
+    }
+  }
+}
 
 std::vector<std::string> Texts_Of(const QListWidget* list) {
   std::vector<std::string> texts;
@@ -105,6 +119,7 @@ frmMultiPurposeForm::frmMultiPurposeForm() {
   Build_Member_Frames();
   Build_Non_Task_Frames();
   Build_Print_Log_Frame();
+  Build_Cancel_Buttons();
   Connect_Mechanism();
   Connect_Member_Frames();
   Connect_Non_Task_Frames();
@@ -122,9 +137,17 @@ void frmMultiPurposeForm::Build_Frames() {
     QFrame* frame = controls::Make<QFrame>(this, kFrameNames[index]);
     frame->setGeometry(QRect(QPoint(0, 0), Frame_Pixels(frame_index)));
     this->*kFrames[index] = frame;
-    cmdCancel[static_cast<std::size_t>(index)] =
-        controls::Make_Button(frame, controls::Array_Name("cmdCancel", index), kCancelCaptions[index]);
-    cmdCancel[static_cast<std::size_t>(index)]->setGeometry(Cancel_Place(frame_index));
+  }
+}
+
+// Made last in each frame, so that Tab comes to them after the frame's own controls.
+void frmMultiPurposeForm::Build_Cancel_Buttons() {
+  for (int index = 0; index < reminders::kMultiPurposeFrames; ++index) {
+    const auto frame_index = static_cast<MultiPurposeFrame>(index);
+    QPushButton* cancel =
+        controls::Make_Button(Frame(frame_index), controls::Array_Name("cmdCancel", index), kCancelCaptions[index]);
+    cancel->setGeometry(Cancel_Place(frame_index));
+    cmdCancel[static_cast<std::size_t>(index)] = cancel;
   }
 }
 
@@ -132,7 +155,7 @@ void frmMultiPurposeForm::Build_Member_Frames() {
   using F = frmMultiPurposeForm;
   constexpr int kWidth0 = Frame_Width(reminders::kAddNewGroupMemberFrame) - 2 * kMargin;
   Make_Placed<QLabel>(*this, fraAddNewGroupMember,
-                      {{&F::lblNewGroupMemberNameLabel, "lblNewGroupMemberNameLabel", "Name Of The New Group Member:",
+                      {{&F::lblNewGroupMemberNameLabel, "lblNewGroupMemberNameLabel", "Name Of New Member:",
                         {kMargin, kMargin, kWidth0, kRowHeight}}});
   Make_Placed<QLineEdit>(*this, fraAddNewGroupMember,
                          {{&F::txtNewPerson, "txtNewPerson", nullptr, {kMargin, 32, kWidth0, 24}}});
@@ -224,6 +247,7 @@ void frmMultiPurposeForm::Show_Purpose(const MultiPurpose& purpose) {
     controls::Set_Caption(findChild<QLabel*>(QString::fromUtf8(purpose.heading_label)), std::string(purpose.heading));
   }
   controls::Show_In_Front(*this);
+  Focus_First_Control(frame);
 }
 
 QPushButton* frmMultiPurposeForm::Default_Button() const {

@@ -148,6 +148,7 @@ class frmMultiPurposeForm : public QWidget {
  private:
   void Build_Frames();
   void Build_Member_Frames();
+  void Build_Cancel_Buttons();
   void Build_Non_Task_Frames();    // frmMultiPurposeFormNonTask.cpp
   void Connect_Non_Task_Frames();  // frmMultiPurposeFormNonTask.cpp
   void Build_Print_Log_Frame();    // frmMultiPurposeFormPrintLog.cpp
