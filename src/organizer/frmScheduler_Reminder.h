@@ -52,6 +52,8 @@ class frmScheduler_Reminder : public QMainWindow {
   QLabel* lblGroupMemberName;
   QListWidget* lstScheduleList;  // sorted: "2001, 03Mar 05, 14:30 Dentist, #1"
   QPushButton* cmdViewTaskInformation;
+  QPushButton* cmdDelete;                // "Delete": the member chosen in lstListOfPeople
+  QPushButton* cmdDeleteSelectedRecord;  // "Delete Selected Record": the task chosen in lstScheduleList
   QRadioButton* optDisplayAll;
   QRadioButton* optDisplayOnlyFilteredTasks;
   QGroupBox* fraDisplayOnlyTasksEvents;

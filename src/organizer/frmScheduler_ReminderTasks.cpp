@@ -165,14 +165,21 @@ void frmScheduler_Reminder::Display_A_Persons_TaskList() {
   }
   lstScheduleList->addItems(entries);
   // No entry is selected now.
+  cmdDeleteSelectedRecord->setEnabled(false);
   cmdViewTaskInformation->setEnabled(false);
 }
 
-void frmScheduler_Reminder::lstListOfPeople_Click() { Display_A_Persons_TaskList(); }
+void frmScheduler_Reminder::lstListOfPeople_Click() {
+  Display_A_Persons_TaskList();
+  cmdDelete->setEnabled(true);
+}
 
 void frmScheduler_Reminder::cmdShowTaskList_Click() { Display_A_Persons_TaskList(); }
 
-void frmScheduler_Reminder::lstScheduleList_Click() { cmdViewTaskInformation->setEnabled(true); }
+void frmScheduler_Reminder::lstScheduleList_Click() {
+  cmdDeleteSelectedRecord->setEnabled(true);
+  cmdViewTaskInformation->setEnabled(true);
+}
 
 void frmScheduler_Reminder::lstScheduleList_DblClick() {
   View_Task_Event_Information(organizer::kLstScheduleListDblClick, kNoIndex);
