@@ -9,6 +9,7 @@
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/group_members.h"
 #include "organizer/log_file.h"
+#include "organizer/multipurpose_delete_source.h"
 #include "organizer/organizer_callers.h"
 #include "organizer/task_list.h"
 #include "organizer/working_files.h"
@@ -88,6 +89,13 @@ std::vector<std::string> Texts_Of(const QListWidget* list) {
 // The window's caption for the purpose of an origin.
 std::string_view Caption_Of(std::string_view origin) { return reminders::Multi_Purpose_Of(origin)->caption; }
 
+// Takes every entry of the list whose text equals `entry` out of it.
+void Remove_Entry(QListWidget* list, const std::string& entry) {
+  for (QListWidgetItem* item : list->findItems(QString::fromStdString(entry), Qt::MatchExactly)) {
+    delete list->takeItem(list->row(item));
+  }
+}
+
 std::string Chosen_Text(const QListWidget* list) {
   const QList<QListWidgetItem*> chosen = list->selectedItems();
   return chosen.isEmpty() ? std::string() : chosen.front()->text().toStdString();
@@ -124,7 +132,20 @@ frmMultiPurposeForm::frmMultiPurposeForm() {
   Connect_Member_Frames();
   Connect_Non_Task_Frames();
   Connect_Print_Log_Frame();
+  Lend_Lists_To_Deleting();
   Form_Termination_Routine();
+}
+
+frmMultiPurposeForm::~frmMultiPurposeForm() { organizer::Multi_Purpose_Delete_Source() = {}; }
+
+// The Organizer's delete procedures reach the chosen entries of frames 1 and 2, take the deleted
+// entry out and put the window away through the source they read.
+void frmMultiPurposeForm::Lend_Lists_To_Deleting() {
+  organizer::MultiPurposeDeleteSource& source = organizer::Multi_Purpose_Delete_Source();
+  source.Tasks = {[this] { return Chosen_Task(); }, [this](const std::string& entry) { Remove_Entry(lstListOfTasks, entry); }};
+  source.Members = {[this] { return Chosen_Member(); },
+                    [this](const std::string& entry) { Remove_Entry(lstListOfPeople, entry); }};
+  source.Form_Termination_Routine = [this] { Form_Termination_Routine(); };
 }
 
 QFrame* frmMultiPurposeForm::Frame(MultiPurposeFrame index) const { return this->*kFrames[index]; }
@@ -312,8 +333,9 @@ void frmMultiPurposeForm::lstListOfPeople_Click() { cmdDelete->setEnabled(true);
 
 std::string frmMultiPurposeForm::Chosen_Member() const { return Chosen_Text(lstListOfPeople); }
 
-// Deleting the member comes with the Organizer's deleting procedures.
-void frmMultiPurposeForm::cmdDelete_Click() {}
+void frmMultiPurposeForm::cmdDelete_Click() {
+  Window<frmScheduler_Reminder>().Delete_A_Group_Member(organizer::kMultiPurposeDelete);
+}
 
 void frmMultiPurposeForm::Prepare_Delete_View_Task_Frame(std::string_view) {
   cboListOfPeople->clear();
@@ -345,8 +367,9 @@ std::string frmMultiPurposeForm::Chosen_Task() const { return Chosen_Text(lstLis
 void frmMultiPurposeForm::cmdDelete_1_Click() {
   frmScheduler_Reminder& organizer = Window<frmScheduler_Reminder>();
   const std::string caption = windowTitle().toStdString();
-  // Deleting the task comes with the Organizer's deleting procedures.
-  if (caption == Caption_Of(organizer::kSelectTaskInfoWindowOrigin)) {
+  if (caption == Caption_Of(organizer::kDeleteATaskFromMenuOrigin)) {
+    organizer.Delete_A_Selected_Record(organizer::kMultiPurposeDelete1);
+  } else if (caption == Caption_Of(organizer::kSelectTaskInfoWindowOrigin)) {
     organizer.View_Task_Event_Information(organizer::kMultiPurposeDelete1, Value("N\\A"));
   }
 }

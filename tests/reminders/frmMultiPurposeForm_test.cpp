@@ -13,6 +13,7 @@ namespace {
 
 using reminders::kMultiPurposes;
 using reminders::MultiPurpose;
+using testing::Expect_Placed_Apart;
 using testing::MultiPurposeWindowTest;
 
 class frmMultiPurposeFormTest : public MultiPurposeWindowTest {};
