@@ -26,17 +26,11 @@ using reminders::MultiPurposeFrame;
 namespace {
 
 using controls::Px;
-using multi_purpose_frames::Frame_Height;
-using multi_purpose_frames::Frame_Width;
-using multi_purpose_frames::kButtonHeight;
-using multi_purpose_frames::kButtonWidth;
-using multi_purpose_frames::kMargin;
-using multi_purpose_frames::kRowHeight;
-using multi_purpose_frames::Make_Placed;
-using multi_purpose_frames::Placed;
+// The measures and the table maker that the frames' files share.
+using namespace multi_purpose_frames;
 
 // The frames, by their index.
-constexpr QFrame* frmMultiPurposeForm::* kFrames[reminders::kMultiPurposeFrames] = {
+constexpr QFrame* frmMultiPurposeForm::*kFrames[reminders::kMultiPurposeFrames] = {
     &frmMultiPurposeForm::fraAddNewGroupMember, &frmMultiPurposeForm::fraDeleteGroupMember,
     &frmMultiPurposeForm::fraDeleteViewTask,    &frmMultiPurposeForm::fraNonTaskReminders,
     &frmMultiPurposeForm::fraViewOrDeleteNTRem, &frmMultiPurposeForm::fraPrintLog,
@@ -49,7 +43,7 @@ constexpr const char* kCancelCaptions[reminders::kMultiPurposeFrames] = {"Cancel
                                                                          "Close",  "Close",  "Cancel"};
 
 // The buttons that are the default one in some purpose.
-constexpr QPushButton* frmMultiPurposeForm::* kDefaultButtons[] = {
+constexpr QPushButton* frmMultiPurposeForm::*kDefaultButtons[] = {
     &frmMultiPurposeForm::cmdAdd, &frmMultiPurposeForm::cmdDelete, &frmMultiPurposeForm::cmdAdd_3,
     &frmMultiPurposeForm::cmdDelete_1, &frmMultiPurposeForm::cmdDelete_4};
 
@@ -57,7 +51,9 @@ constexpr QPushButton* frmMultiPurposeForm::* kDefaultButtons[] = {
 QSize Frame_Pixels(MultiPurposeFrame frame) { return {Frame_Width(frame), Frame_Height(frame)}; }
 
 // The width of the buttons of the bottom row: two of them fit the narrowest frame.
-int Bottom_Button_Width(MultiPurposeFrame frame) { return std::min(kButtonWidth, (Frame_Width(frame) - 3 * kMargin) / 2); }
+int Bottom_Button_Width(MultiPurposeFrame frame) {
+  return std::min(kButtonWidth, (Frame_Width(frame) - 3 * kMargin) / 2);
+}
 
 // The place of cmdCancel(k) in the bottom right corner of its frame.
 QRect Cancel_Place(MultiPurposeFrame frame) {
@@ -142,7 +138,8 @@ frmMultiPurposeForm::~frmMultiPurposeForm() { organizer::Multi_Purpose_Delete_So
 // entry out and put the window away through the source they read.
 void frmMultiPurposeForm::Lend_Lists_To_Deleting() {
   organizer::MultiPurposeDeleteSource& source = organizer::Multi_Purpose_Delete_Source();
-  source.Tasks = {[this] { return Chosen_Task(); }, [this](const std::string& entry) { Remove_Entry(lstListOfTasks, entry); }};
+  source.Tasks = {[this] { return Chosen_Task(); },
+                  [this](const std::string& entry) { Remove_Entry(lstListOfTasks, entry); }};
   source.Members = {[this] { return Chosen_Member(); },
                     [this](const std::string& entry) { Remove_Entry(lstListOfPeople, entry); }};
   source.Form_Termination_Routine = [this] { Form_Termination_Routine(); };
@@ -176,7 +173,9 @@ void frmMultiPurposeForm::Build_Member_Frames() {
   using F = frmMultiPurposeForm;
   constexpr int kWidth0 = Frame_Width(reminders::kAddNewGroupMemberFrame) - 2 * kMargin;
   Make_Placed<QLabel>(*this, fraAddNewGroupMember,
-                      {{&F::lblNewGroupMemberNameLabel, "lblNewGroupMemberNameLabel", "Name Of New Member:",
+                      {{&F::lblNewGroupMemberNameLabel,
+                        "lblNewGroupMemberNameLabel",
+                        "Name Of New Member:",
                         {kMargin, kMargin, kWidth0, kRowHeight}}});
   Make_Placed<QLineEdit>(*this, fraAddNewGroupMember,
                          {{&F::txtNewPerson, "txtNewPerson", nullptr, {kMargin, 32, kWidth0, 24}}});
@@ -186,11 +185,13 @@ void frmMultiPurposeForm::Build_Member_Frames() {
   constexpr int kWidth1 = Frame_Width(reminders::kDeleteGroupMemberFrame) - 2 * kMargin;
   const int list_bottom1 = Cancel_Place(reminders::kDeleteGroupMemberFrame).top() - kMargin;
   Make_Placed<QLabel>(*this, fraDeleteGroupMember,
-                      {{&F::lblDeleteGroupMemberLabel, "lblDeleteGroupMemberLabel", "Select Group Member To Delete:",
+                      {{&F::lblDeleteGroupMemberLabel,
+                        "lblDeleteGroupMemberLabel",
+                        "Select Group Member To Delete:",
                         {kMargin, 6, kWidth1, kRowHeight}}});
-  Make_Placed<QListWidget>(*this, fraDeleteGroupMember,
-                           {{&F::lstListOfPeople, "lstListOfPeople", nullptr,
-                             {kMargin, 28, kWidth1, list_bottom1 - 28}}});
+  Make_Placed<QListWidget>(
+      *this, fraDeleteGroupMember,
+      {{&F::lstListOfPeople, "lstListOfPeople", nullptr, {kMargin, 28, kWidth1, list_bottom1 - 28}}});
   Make_Placed<QPushButton>(*this, fraDeleteGroupMember,
                            {{&F::cmdDelete, "cmdDelete", "Delete", Beside_Cancel(reminders::kDeleteGroupMemberFrame)}});
   lstListOfPeople->setSortingEnabled(true);
@@ -198,17 +199,19 @@ void frmMultiPurposeForm::Build_Member_Frames() {
   constexpr int kWidth2 = Frame_Width(reminders::kDeleteViewTaskFrame) - 2 * kMargin;
   constexpr int kComboLeft = kMargin + 100;
   const int list_bottom2 = Cancel_Place(reminders::kDeleteViewTaskFrame).top() - kMargin;
-  Make_Placed<QLabel>(*this, fraDeleteViewTask,
-                      {{&F::Label1, "Label1", "Group Member", {kMargin, 10, 96, kRowHeight}},
-                       {&F::lblListBoxHeadingLabel_2, "lblListBoxHeadingLabel_2", nullptr,
-                        {kMargin, 40, kWidth2, kRowHeight}}});
-  Make_Placed<QComboBox>(*this, fraDeleteViewTask,
-                         {{&F::cboListOfPeople, "cboListOfPeople", nullptr,
-                           {kComboLeft, kMargin, kWidth2 + kMargin - kComboLeft, 26}}});
-  Make_Placed<QListWidget>(*this, fraDeleteViewTask,
-                           {{&F::lstListOfTasks, "lstListOfTasks", nullptr, {kMargin, 62, kWidth2, list_bottom2 - 62}}});
-  Make_Placed<QPushButton>(*this, fraDeleteViewTask,
-                           {{&F::cmdDelete_1, "cmdDelete_1", "Delete", Beside_Cancel(reminders::kDeleteViewTaskFrame)}});
+  Make_Placed<QLabel>(
+      *this, fraDeleteViewTask,
+      {{&F::Label1, "Label1", "Group Member", {kMargin, 10, 96, kRowHeight}},
+       {&F::lblListBoxHeadingLabel_2, "lblListBoxHeadingLabel_2", nullptr, {kMargin, 40, kWidth2, kRowHeight}}});
+  Make_Placed<QComboBox>(
+      *this, fraDeleteViewTask,
+      {{&F::cboListOfPeople, "cboListOfPeople", nullptr, {kComboLeft, kMargin, kWidth2 + kMargin - kComboLeft, 26}}});
+  Make_Placed<QListWidget>(
+      *this, fraDeleteViewTask,
+      {{&F::lstListOfTasks, "lstListOfTasks", nullptr, {kMargin, 62, kWidth2, list_bottom2 - 62}}});
+  Make_Placed<QPushButton>(
+      *this, fraDeleteViewTask,
+      {{&F::cmdDelete_1, "cmdDelete_1", "Delete", Beside_Cancel(reminders::kDeleteViewTaskFrame)}});
   lstListOfTasks->setSortingEnabled(true);
 }
 
@@ -238,8 +241,8 @@ void frmMultiPurposeForm::Connect_Member_Frames() {
 
 void frmMultiPurposeForm::Form_Termination_Routine() {
   hide();
-  for (QFrame* frmMultiPurposeForm::* frame : kFrames) (this->*frame)->hide();
-  for (QPushButton* frmMultiPurposeForm::* button : kDefaultButtons) (this->*button)->setDefault(false);
+  for (QFrame* frmMultiPurposeForm::*frame : kFrames) (this->*frame)->hide();
+  for (QPushButton* frmMultiPurposeForm::*button : kDefaultButtons) (this->*button)->setDefault(false);
   cmdDelete_4->setEnabled(false);
   for (QPushButton* cancel : cmdCancel) controls::Set_Cancel(cancel, false);
 }
@@ -272,7 +275,7 @@ void frmMultiPurposeForm::Show_Purpose(const MultiPurpose& purpose) {
 }
 
 QPushButton* frmMultiPurposeForm::Default_Button() const {
-  for (QPushButton* frmMultiPurposeForm::* button : kDefaultButtons) {
+  for (QPushButton* frmMultiPurposeForm::*button : kDefaultButtons) {
     if ((this->*button)->isDefault()) return this->*button;
   }
   return nullptr;

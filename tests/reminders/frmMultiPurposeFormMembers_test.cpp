@@ -11,9 +11,9 @@ namespace {
 
 using controls::Caption;
 using organizer::Make_Person_Marker;
-using testing::GoldenCase;
 using testing::Golden_Case_Name;
 using testing::Golden_Cases;
+using testing::GoldenCase;
 using testing::MultiPurposeWindowTest;
 
 class MultiPurposeMembersTest : public MultiPurposeWindowTest {
@@ -97,7 +97,8 @@ TEST_F(MultiPurposeMembersTest, AnEmptyNameIsRefusedAndTheWindowStays) {
   const std::string log = Read_File("Schedule.tmp");
   machine().Answer_Next(vbOK, "No Group Member Specified");
   Add_Member_By_Keys("   ");
-  Expect_Only_Message(Exclamation_Message("No Group Member Specified", "Please enter a name for the new Group Member."));
+  Expect_Only_Message(
+      Exclamation_Message("No Group Member Specified", "Please enter a name for the new Group Member."));
   EXPECT_TRUE(form().isVisible());
   EXPECT_EQ(Read_File("Schedule.tmp"), log);
   EXPECT_EQ(organizer().Save_File_Prompt_Flag, 0);
@@ -210,8 +211,8 @@ TEST_F(MultiPurposeMembersTest, ChoosingAMemberListsTheirTasksInTimeOrder) {
   EXPECT_EQ(form().cboListOfPeople->currentText().toStdString(), "");
   EXPECT_FALSE(form().cmdDelete_1->isEnabled());
   Choose_In_Combo(form().cboListOfPeople, "Anna");
-  EXPECT_EQ(Entries(form().lstListOfTasks), (std::vector<std::string>{"2000, 12Dec 31, 23:59 Party, #3",
-                                                                     "2001, 03Mar 05, 14:30 Dentist, #1"}));
+  EXPECT_EQ(Entries(form().lstListOfTasks),
+            (std::vector<std::string>{"2000, 12Dec 31, 23:59 Party, #3", "2001, 03Mar 05, 14:30 Dentist, #1"}));
   EXPECT_FALSE(form().cmdDelete_1->isEnabled());
 }
 
@@ -229,9 +230,9 @@ TEST_F(MultiPurposeMembersTest, TasksOfTheSameMinuteDifferByNameAndNumber) {
              Task_At(9, "Anna", 2001, "March", "05", "14", "30", "Call")});
   Press_Keys(large(), QKeySequence("Ctrl+F3"));
   Choose_In_Combo(form().cboListOfPeople, "Anna");
-  EXPECT_EQ(Entries(form().lstListOfTasks), (std::vector<std::string>{"2001, 03Mar 05, 14:30 Call, #9",
-                                                                     "2001, 03Mar 05, 14:30 Dentist, #12",
-                                                                     "2001, 03Mar 05, 14:30 Dentist, #7"}));
+  EXPECT_EQ(Entries(form().lstListOfTasks),
+            (std::vector<std::string>{"2001, 03Mar 05, 14:30 Call, #9", "2001, 03Mar 05, 14:30 Dentist, #12",
+                                      "2001, 03Mar 05, 14:30 Dentist, #7"}));
 }
 
 TEST_F(MultiPurposeMembersTest, ChoosingATaskEnablesTheButtonAndChoosingAMemberDisablesIt) {
@@ -284,6 +285,14 @@ TEST_F(MultiPurposeMembersTest, EnterDeletesTheChosenTaskFromTheLogAndItsReminde
   });
   EXPECT_EQ(reminders, std::vector<int>{3});
   EXPECT_EQ(organizer().Save_File_Prompt_Flag, 1);
+}
+
+TEST_F(MultiPurposeMembersTest, ViewingWithNoTaskChosenShowsNothing) {
+  Write_Sample_Log();
+  Press_Keys(large(), QKeySequence("Ctrl+I"));
+  Choose_In_Combo(form().cboListOfPeople, "Anna");
+  organizer().View_Task_Event_Information(organizer::kMultiPurposeDelete1, Value("N\\A"));
+  EXPECT_FALSE(information().isVisible());
 }
 
 // Enter presses View while the focus stands in the member box; Escape closes.
