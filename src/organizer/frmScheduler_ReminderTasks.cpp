@@ -85,9 +85,11 @@ std::optional<Value> Chart_Cell_Owner(frmScheduler_Reminder& organizer, const Va
   return std::nullopt;
 }
 
-// The task chosen in the multi-purpose window's list.
+// The task chosen in the multi-purpose window's list; nothing where none is chosen.
 std::optional<Value> Multi_Purpose_Task(frmScheduler_Reminder&, const Value&) {
-  return Number_Of_Entry(QString::fromStdString(Window<frmMultiPurposeForm>().Chosen_Task()));
+  const std::string chosen = Window<frmMultiPurposeForm>().Chosen_Task();
+  if (chosen.empty()) return std::nullopt;
+  return Number_Of_Entry(QString::fromStdString(chosen));
 }
 
 // The task of the reminder window: the chosen entry of its list where the list stands, else the

@@ -37,7 +37,9 @@ void Make_Placed(frmMultiPurposeForm& form, QWidget* parent, std::initializer_li
 }
 
 // A frame's size in pixels.
-constexpr int Frame_Width(reminders::MultiPurposeFrame frame) { return controls::Px(reminders::Frame_Size(frame).width); }
+constexpr int Frame_Width(reminders::MultiPurposeFrame frame) {
+  return controls::Px(reminders::Frame_Size(frame).width);
+}
 constexpr int Frame_Height(reminders::MultiPurposeFrame frame) {
   return controls::Px(reminders::Frame_Size(frame).height);
 }

@@ -3,12 +3,13 @@
 // delete or to view.
 #include "reminders/frmMultiPurposeForm.h"
 
-#include <QSignalBlocker>
+#include <algorithm>
 #include <vector>
 
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/group_members.h"
 #include "organizer/log_file.h"
+#include "organizer/multipurpose_delete_source.h"
 #include "organizer/organizer_callers.h"
 #include "organizer/task_list.h"
 #include "organizer/working_files.h"
@@ -25,17 +26,11 @@ using reminders::MultiPurposeFrame;
 namespace {
 
 using controls::Px;
-using multi_purpose_frames::Frame_Height;
-using multi_purpose_frames::Frame_Width;
-using multi_purpose_frames::kButtonHeight;
-using multi_purpose_frames::kButtonWidth;
-using multi_purpose_frames::kMargin;
-using multi_purpose_frames::kRowHeight;
-using multi_purpose_frames::Make_Placed;
-using multi_purpose_frames::Placed;
+// The measures and the table maker that the frames' files share.
+using namespace multi_purpose_frames;
 
 // The frames, by their index.
-constexpr QFrame* frmMultiPurposeForm::* kFrames[reminders::kMultiPurposeFrames] = {
+constexpr QFrame* frmMultiPurposeForm::*kFrames[reminders::kMultiPurposeFrames] = {
     &frmMultiPurposeForm::fraAddNewGroupMember, &frmMultiPurposeForm::fraDeleteGroupMember,
     &frmMultiPurposeForm::fraDeleteViewTask,    &frmMultiPurposeForm::fraNonTaskReminders,
     &frmMultiPurposeForm::fraViewOrDeleteNTRem, &frmMultiPurposeForm::fraPrintLog,
@@ -48,22 +43,38 @@ constexpr const char* kCancelCaptions[reminders::kMultiPurposeFrames] = {"Cancel
                                                                          "Close",  "Close",  "Cancel"};
 
 // The buttons that are the default one in some purpose.
-constexpr QPushButton* frmMultiPurposeForm::* kDefaultButtons[] = {
+constexpr QPushButton* frmMultiPurposeForm::*kDefaultButtons[] = {
     &frmMultiPurposeForm::cmdAdd, &frmMultiPurposeForm::cmdDelete, &frmMultiPurposeForm::cmdAdd_3,
     &frmMultiPurposeForm::cmdDelete_1, &frmMultiPurposeForm::cmdDelete_4};
 
 // The size of a frame, and of the window while the frame shows, in pixels.
 QSize Frame_Pixels(MultiPurposeFrame frame) { return {Frame_Width(frame), Frame_Height(frame)}; }
 
+// The width of the buttons of the bottom row: two of them fit the narrowest frame.
+int Bottom_Button_Width(MultiPurposeFrame frame) {
+  return std::min(kButtonWidth, (Frame_Width(frame) - 3 * kMargin) / 2);
+}
+
 // The place of cmdCancel(k) in the bottom right corner of its frame.
 QRect Cancel_Place(MultiPurposeFrame frame) {
-  const QSize size = Frame_Pixels(frame);
-  return {size.width() - kMargin - kButtonWidth, size.height() - kMargin - kButtonHeight, kButtonWidth,
-          kButtonHeight};
+  const int width = Bottom_Button_Width(frame);
+  return {Frame_Width(frame) - kMargin - width, Frame_Height(frame) - kMargin - kButtonHeight, width, kButtonHeight};
 }
 
 // Beside cmdCancel(k), to its left.
-QRect Beside_Cancel(MultiPurposeFrame frame) { return Cancel_Place(frame).translated(-kButtonWidth - kMargin, 0); }
+QRect Beside_Cancel(MultiPurposeFrame frame) {
+  return Cancel_Place(frame).translated(-Bottom_Button_Width(frame) - kMargin, 0);
+}
+
+// The focus goes to the frame's first control that Tab reaches, in the order they were made.
+void Focus_First_Control(QWidget* frame) {
+  for (QWidget* control : frame->findChildren<QWidget*>()) {
+    if ((control->focusPolicy() & Qt::TabFocus) != 0 && control->isEnabled() && control->isVisibleTo(frame)) {
+      control->setFocus();
+      return;
+    }
+  }
+}
 
 std::vector<std::string> Texts_Of(const QListWidget* list) {
   std::vector<std::string> texts;
@@ -73,6 +84,13 @@ std::vector<std::string> Texts_Of(const QListWidget* list) {
 
 // The window's caption for the purpose of an origin.
 std::string_view Caption_Of(std::string_view origin) { return reminders::Multi_Purpose_Of(origin)->caption; }
+
+// Takes every entry of the list whose text equals `entry` out of it.
+void Remove_Entry(QListWidget* list, const std::string& entry) {
+  for (QListWidgetItem* item : list->findItems(QString::fromStdString(entry), Qt::MatchExactly)) {
+    delete list->takeItem(list->row(item));
+  }
+}
 
 std::string Chosen_Text(const QListWidget* list) {
   const QList<QListWidgetItem*> chosen = list->selectedItems();
@@ -105,11 +123,26 @@ frmMultiPurposeForm::frmMultiPurposeForm() {
   Build_Member_Frames();
   Build_Non_Task_Frames();
   Build_Print_Log_Frame();
+  Build_Cancel_Buttons();
   Connect_Mechanism();
   Connect_Member_Frames();
   Connect_Non_Task_Frames();
   Connect_Print_Log_Frame();
+  Lend_Lists_To_Deleting();
   Form_Termination_Routine();
+}
+
+frmMultiPurposeForm::~frmMultiPurposeForm() { organizer::Multi_Purpose_Delete_Source() = {}; }
+
+// The Organizer's delete procedures reach the chosen entries of frames 1 and 2, take the deleted
+// entry out and put the window away through the source they read.
+void frmMultiPurposeForm::Lend_Lists_To_Deleting() {
+  organizer::MultiPurposeDeleteSource& source = organizer::Multi_Purpose_Delete_Source();
+  source.Tasks = {[this] { return Chosen_Task(); },
+                  [this](const std::string& entry) { Remove_Entry(lstListOfTasks, entry); }};
+  source.Members = {[this] { return Chosen_Member(); },
+                    [this](const std::string& entry) { Remove_Entry(lstListOfPeople, entry); }};
+  source.Form_Termination_Routine = [this] { Form_Termination_Routine(); };
 }
 
 QFrame* frmMultiPurposeForm::Frame(MultiPurposeFrame index) const { return this->*kFrames[index]; }
@@ -122,9 +155,17 @@ void frmMultiPurposeForm::Build_Frames() {
     QFrame* frame = controls::Make<QFrame>(this, kFrameNames[index]);
     frame->setGeometry(QRect(QPoint(0, 0), Frame_Pixels(frame_index)));
     this->*kFrames[index] = frame;
-    cmdCancel[static_cast<std::size_t>(index)] =
-        controls::Make_Button(frame, controls::Array_Name("cmdCancel", index), kCancelCaptions[index]);
-    cmdCancel[static_cast<std::size_t>(index)]->setGeometry(Cancel_Place(frame_index));
+  }
+}
+
+// Made last in each frame, so that Tab comes to them after the frame's own controls.
+void frmMultiPurposeForm::Build_Cancel_Buttons() {
+  for (int index = 0; index < reminders::kMultiPurposeFrames; ++index) {
+    const auto frame_index = static_cast<MultiPurposeFrame>(index);
+    QPushButton* cancel =
+        controls::Make_Button(Frame(frame_index), controls::Array_Name("cmdCancel", index), kCancelCaptions[index]);
+    cancel->setGeometry(Cancel_Place(frame_index));
+    cmdCancel[static_cast<std::size_t>(index)] = cancel;
   }
 }
 
@@ -132,7 +173,9 @@ void frmMultiPurposeForm::Build_Member_Frames() {
   using F = frmMultiPurposeForm;
   constexpr int kWidth0 = Frame_Width(reminders::kAddNewGroupMemberFrame) - 2 * kMargin;
   Make_Placed<QLabel>(*this, fraAddNewGroupMember,
-                      {{&F::lblNewGroupMemberNameLabel, "lblNewGroupMemberNameLabel", "Name Of The New Group Member:",
+                      {{&F::lblNewGroupMemberNameLabel,
+                        "lblNewGroupMemberNameLabel",
+                        "Name Of New Member:",
                         {kMargin, kMargin, kWidth0, kRowHeight}}});
   Make_Placed<QLineEdit>(*this, fraAddNewGroupMember,
                          {{&F::txtNewPerson, "txtNewPerson", nullptr, {kMargin, 32, kWidth0, 24}}});
@@ -142,11 +185,13 @@ void frmMultiPurposeForm::Build_Member_Frames() {
   constexpr int kWidth1 = Frame_Width(reminders::kDeleteGroupMemberFrame) - 2 * kMargin;
   const int list_bottom1 = Cancel_Place(reminders::kDeleteGroupMemberFrame).top() - kMargin;
   Make_Placed<QLabel>(*this, fraDeleteGroupMember,
-                      {{&F::lblDeleteGroupMemberLabel, "lblDeleteGroupMemberLabel", "Select Group Member To Delete:",
+                      {{&F::lblDeleteGroupMemberLabel,
+                        "lblDeleteGroupMemberLabel",
+                        "Select Group Member To Delete:",
                         {kMargin, 6, kWidth1, kRowHeight}}});
-  Make_Placed<QListWidget>(*this, fraDeleteGroupMember,
-                           {{&F::lstListOfPeople, "lstListOfPeople", nullptr,
-                             {kMargin, 28, kWidth1, list_bottom1 - 28}}});
+  Make_Placed<QListWidget>(
+      *this, fraDeleteGroupMember,
+      {{&F::lstListOfPeople, "lstListOfPeople", nullptr, {kMargin, 28, kWidth1, list_bottom1 - 28}}});
   Make_Placed<QPushButton>(*this, fraDeleteGroupMember,
                            {{&F::cmdDelete, "cmdDelete", "Delete", Beside_Cancel(reminders::kDeleteGroupMemberFrame)}});
   lstListOfPeople->setSortingEnabled(true);
@@ -154,17 +199,19 @@ void frmMultiPurposeForm::Build_Member_Frames() {
   constexpr int kWidth2 = Frame_Width(reminders::kDeleteViewTaskFrame) - 2 * kMargin;
   constexpr int kComboLeft = kMargin + 100;
   const int list_bottom2 = Cancel_Place(reminders::kDeleteViewTaskFrame).top() - kMargin;
-  Make_Placed<QLabel>(*this, fraDeleteViewTask,
-                      {{&F::Label1, "Label1", "Group Member", {kMargin, 10, 96, kRowHeight}},
-                       {&F::lblListBoxHeadingLabel_2, "lblListBoxHeadingLabel_2", nullptr,
-                        {kMargin, 40, kWidth2, kRowHeight}}});
-  Make_Placed<QComboBox>(*this, fraDeleteViewTask,
-                         {{&F::cboListOfPeople, "cboListOfPeople", nullptr,
-                           {kComboLeft, kMargin, kWidth2 + kMargin - kComboLeft, 26}}});
-  Make_Placed<QListWidget>(*this, fraDeleteViewTask,
-                           {{&F::lstListOfTasks, "lstListOfTasks", nullptr, {kMargin, 62, kWidth2, list_bottom2 - 62}}});
-  Make_Placed<QPushButton>(*this, fraDeleteViewTask,
-                           {{&F::cmdDelete_1, "cmdDelete_1", "Delete", Beside_Cancel(reminders::kDeleteViewTaskFrame)}});
+  Make_Placed<QLabel>(
+      *this, fraDeleteViewTask,
+      {{&F::Label1, "Label1", "Group Member", {kMargin, 10, 96, kRowHeight}},
+       {&F::lblListBoxHeadingLabel_2, "lblListBoxHeadingLabel_2", nullptr, {kMargin, 40, kWidth2, kRowHeight}}});
+  Make_Placed<QComboBox>(
+      *this, fraDeleteViewTask,
+      {{&F::cboListOfPeople, "cboListOfPeople", nullptr, {kComboLeft, kMargin, kWidth2 + kMargin - kComboLeft, 26}}});
+  Make_Placed<QListWidget>(
+      *this, fraDeleteViewTask,
+      {{&F::lstListOfTasks, "lstListOfTasks", nullptr, {kMargin, 62, kWidth2, list_bottom2 - 62}}});
+  Make_Placed<QPushButton>(
+      *this, fraDeleteViewTask,
+      {{&F::cmdDelete_1, "cmdDelete_1", "Delete", Beside_Cancel(reminders::kDeleteViewTaskFrame)}});
   lstListOfTasks->setSortingEnabled(true);
 }
 
@@ -194,8 +241,8 @@ void frmMultiPurposeForm::Connect_Member_Frames() {
 
 void frmMultiPurposeForm::Form_Termination_Routine() {
   hide();
-  for (QFrame* frmMultiPurposeForm::* frame : kFrames) (this->*frame)->hide();
-  for (QPushButton* frmMultiPurposeForm::* button : kDefaultButtons) (this->*button)->setDefault(false);
+  for (QFrame* frmMultiPurposeForm::*frame : kFrames) (this->*frame)->hide();
+  for (QPushButton* frmMultiPurposeForm::*button : kDefaultButtons) (this->*button)->setDefault(false);
   cmdDelete_4->setEnabled(false);
   for (QPushButton* cancel : cmdCancel) controls::Set_Cancel(cancel, false);
 }
@@ -224,10 +271,11 @@ void frmMultiPurposeForm::Show_Purpose(const MultiPurpose& purpose) {
     controls::Set_Caption(findChild<QLabel*>(QString::fromUtf8(purpose.heading_label)), std::string(purpose.heading));
   }
   controls::Show_In_Front(*this);
+  Focus_First_Control(frame);
 }
 
 QPushButton* frmMultiPurposeForm::Default_Button() const {
-  for (QPushButton* frmMultiPurposeForm::* button : kDefaultButtons) {
+  for (QPushButton* frmMultiPurposeForm::*button : kDefaultButtons) {
     if ((this->*button)->isDefault()) return this->*button;
   }
   return nullptr;
@@ -288,8 +336,9 @@ void frmMultiPurposeForm::lstListOfPeople_Click() { cmdDelete->setEnabled(true);
 
 std::string frmMultiPurposeForm::Chosen_Member() const { return Chosen_Text(lstListOfPeople); }
 
-// Deleting the member comes with the Organizer's deleting procedures.
-void frmMultiPurposeForm::cmdDelete_Click() {}
+void frmMultiPurposeForm::cmdDelete_Click() {
+  Window<frmScheduler_Reminder>().Delete_A_Group_Member(organizer::kMultiPurposeDelete);
+}
 
 void frmMultiPurposeForm::Prepare_Delete_View_Task_Frame(std::string_view) {
   cboListOfPeople->clear();
@@ -321,8 +370,9 @@ std::string frmMultiPurposeForm::Chosen_Task() const { return Chosen_Text(lstLis
 void frmMultiPurposeForm::cmdDelete_1_Click() {
   frmScheduler_Reminder& organizer = Window<frmScheduler_Reminder>();
   const std::string caption = windowTitle().toStdString();
-  // Deleting the task comes with the Organizer's deleting procedures.
-  if (caption == Caption_Of(organizer::kSelectTaskInfoWindowOrigin)) {
+  if (caption == Caption_Of(organizer::kDeleteATaskFromMenuOrigin)) {
+    organizer.Delete_A_Selected_Record(organizer::kMultiPurposeDelete1);
+  } else if (caption == Caption_Of(organizer::kSelectTaskInfoWindowOrigin)) {
     organizer.View_Task_Event_Information(organizer::kMultiPurposeDelete1, Value("N\\A"));
   }
 }

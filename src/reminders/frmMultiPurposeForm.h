@@ -33,6 +33,7 @@ class frmMultiPurposeForm : public QWidget {
   Q_OBJECT
  public:
   frmMultiPurposeForm();
+  ~frmMultiPurposeForm() override;
 
   // ---- The six frames, by their index ---------------------------------------------------------
   QFrame* fraAddNewGroupMember;
@@ -164,11 +165,13 @@ class frmMultiPurposeForm : public QWidget {
  private:
   void Build_Frames();
   void Build_Member_Frames();
+  void Build_Cancel_Buttons();
   void Build_Non_Task_Frames();    // frmMultiPurposeFormNonTask.cpp
   void Connect_Non_Task_Frames();  // frmMultiPurposeFormNonTask.cpp
   void Build_Print_Log_Frame();    // frmMultiPurposeFormPrintLog.cpp
   void Connect_Print_Log_Frame();  // frmMultiPurposeFormPrintLog.cpp
   void Connect_Mechanism();
+  void Lend_Lists_To_Deleting();
   void Connect_Member_Frames();
   void Prepare_Add_New_Group_Member_Frame(std::string_view Calling_Sub_Origin);
   void Prepare_Delete_Group_Member_Frame(std::string_view Calling_Sub_Origin);

@@ -29,8 +29,8 @@ inline constexpr std::string_view kKeepCaption = "";
 struct MultiPurpose {
   std::string_view origin;
   MultiPurposeFrame frame;
-  std::string_view caption;          // the window's
-  int height_twips;                  // the window's size
+  std::string_view caption;  // the window's
+  int height_twips;          // the window's size
   int width_twips;
   std::string_view default_button;   // the control's name; "" for none
   std::string_view default_caption;  // kKeepCaption, or the caption it takes
@@ -47,27 +47,27 @@ inline constexpr std::string_view kMessageHeading = "lblHeadingLabel_4";
 
 // The nine ways into the window, in the order in which they are tested.
 inline constexpr MultiPurpose kMultiPurposes[] = {
-    {organizer::kAddNewGroupMemberOrigin, kAddNewGroupMemberFrame, "Add New Group Member", 1950, 3105, "cmdAdd", kKeepCaption, 0,
-     kKeepCaption, "", ""},
-    {organizer::kDeleteGroupMemberOrigin, kDeleteGroupMemberFrame, "Delete Group Member", 2445, 3600, "cmdDelete", kKeepCaption,
-     1, kKeepCaption, "", ""},
-    {organizer::kDeleteATaskFromMenuOrigin, kDeleteViewTaskFrame, "Delete A Task\\Event", 3390, 5505, "cmdDelete_1", "Delete", 2,
-     "Cancel", kTaskHeading, "Select Task To Delete:"},
-    {organizer::kSelectTaskInfoWindowOrigin, kDeleteViewTaskFrame, "View Task\\Event Information", 3390, 5505, "cmdDelete_1",
-     "View", 2, "Close", kTaskHeading, "Select Task To View:"},
-    {organizer::kActivateNonTaskReminderWindow, kNonTaskRemindersFrame, "Create Non-Task Reminder", 5430, 3945, "cmdAdd_3", "Add",
-     3, kKeepCaption, "", ""},
-    {organizer::kActivateChangeNTTaskWindow, kNonTaskRemindersFrame, "Change Non-Task Reminder", 5430, 3945, "cmdAdd_3", "Update",
-     3, kKeepCaption, "", ""},
-    {organizer::kActivateDeleteNTTaskWindow, kViewOrDeleteNTRemFrame, "Delete Non-Task Reminder", 2430, 5385, "cmdDelete_4",
-     "Delete", 4, kKeepCaption, kMessageHeading, "Select Message To Delete"},
+    {organizer::kAddNewGroupMemberOrigin, kAddNewGroupMemberFrame, "Add New Group Member", 1950, 3105, "cmdAdd",
+     kKeepCaption, 0, kKeepCaption, "", ""},
+    {organizer::kDeleteGroupMemberOrigin, kDeleteGroupMemberFrame, "Delete Group Member", 2445, 3600, "cmdDelete",
+     kKeepCaption, 1, kKeepCaption, "", ""},
+    {organizer::kDeleteATaskFromMenuOrigin, kDeleteViewTaskFrame, "Delete A Task\\Event", 3390, 5505, "cmdDelete_1",
+     "Delete", 2, "Cancel", kTaskHeading, "Select Task To Delete:"},
+    {organizer::kSelectTaskInfoWindowOrigin, kDeleteViewTaskFrame, "View Task\\Event Information", 3390, 5505,
+     "cmdDelete_1", "View", 2, "Close", kTaskHeading, "Select Task To View:"},
+    {organizer::kActivateNonTaskReminderWindow, kNonTaskRemindersFrame, "Create Non-Task Reminder", 5430, 3945,
+     "cmdAdd_3", "Add", 3, kKeepCaption, "", ""},
+    {organizer::kActivateChangeNTTaskWindow, kNonTaskRemindersFrame, "Change Non-Task Reminder", 5430, 3945, "cmdAdd_3",
+     "Update", 3, kKeepCaption, "", ""},
+    {organizer::kActivateDeleteNTTaskWindow, kViewOrDeleteNTRemFrame, "Delete Non-Task Reminder", 2430, 5385,
+     "cmdDelete_4", "Delete", 4, kKeepCaption, kMessageHeading, "Select Message To Delete"},
     // The list of the change path bears the title of its edit form.
-    {organizer::kActivateViewNTTaskWindow, kViewOrDeleteNTRemFrame, "Change Non-Task Reminder", 2430, 5385, "cmdDelete_4",
-     "Select", 4, kKeepCaption, kMessageHeading, "Select Message To View"},
+    {organizer::kActivateViewNTTaskWindow, kViewOrDeleteNTRemFrame, "Change Non-Task Reminder", 2430, 5385,
+     "cmdDelete_4", "Select", 4, kKeepCaption, kMessageHeading, "Select Message To View"},
     // Printing has no default button: Enter prints nothing by itself.
-    {organizer::kActivatePrintLogScreen, kPrintLogFrame, "Print Log", 6030, 4665, "", kKeepCaption, 5, kKeepCaption, "", ""},
+    {organizer::kActivatePrintLogScreen, kPrintLogFrame, "Print Log", 6030, 4665, "", kKeepCaption, 5, kKeepCaption, "",
+     ""},
 };
-
 
 // The size of a frame in twips: that of the purposes it serves, which agree.
 struct TwipSize {

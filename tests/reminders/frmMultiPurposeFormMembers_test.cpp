@@ -11,9 +11,9 @@ namespace {
 
 using controls::Caption;
 using organizer::Make_Person_Marker;
-using testing::GoldenCase;
 using testing::Golden_Case_Name;
 using testing::Golden_Cases;
+using testing::GoldenCase;
 using testing::MultiPurposeWindowTest;
 
 class MultiPurposeMembersTest : public MultiPurposeWindowTest {
@@ -97,7 +97,8 @@ TEST_F(MultiPurposeMembersTest, AnEmptyNameIsRefusedAndTheWindowStays) {
   const std::string log = Read_File("Schedule.tmp");
   machine().Answer_Next(vbOK, "No Group Member Specified");
   Add_Member_By_Keys("   ");
-  Expect_Only_Message(Exclamation_Message("No Group Member Specified", "Please enter a name for the new Group Member."));
+  Expect_Only_Message(
+      Exclamation_Message("No Group Member Specified", "Please enter a name for the new Group Member."));
   EXPECT_TRUE(form().isVisible());
   EXPECT_EQ(Read_File("Schedule.tmp"), log);
   EXPECT_EQ(organizer().Save_File_Prompt_Flag, 0);
@@ -166,6 +167,33 @@ TEST_F(MultiPurposeMembersTest, TheMemberListIsReadAnewAtEachOpening) {
   EXPECT_FALSE(form().cmdDelete->isEnabled());
 }
 
+TEST_F(MultiPurposeMembersTest, DeleteTakesTheChosenMemberOutOfTheLogAndTheLists) {
+  Write_Sample_Log();
+  Open_Organizer();
+  Press_Keys(large(), QKeySequence("Shift+F3"));
+  Click_Entry(form().lstListOfPeople, "Anna");
+  machine().Answer_Next(vbYes, "Confirm Entity Delete");
+  Click(form().cmdDelete);
+  EXPECT_FALSE(form().isVisible());
+  EXPECT_EQ(Entries(form().lstListOfPeople), (std::vector<std::string>{"Ben", "Cleo"}));
+  EXPECT_EQ(Organizer_Members(), (std::vector<std::string>{"Ben", "Cleo"}));
+  std::vector<std::string> log_members;
+  organizer::For_Each_Member(organizer::kScheduleFile, [&](const std::string& m) { log_members.push_back(m); });
+  EXPECT_EQ(log_members, (std::vector<std::string>{"Ben", "Cleo"}));
+  EXPECT_EQ(organizer().Save_File_Prompt_Flag, 1);
+}
+
+TEST_F(MultiPurposeMembersTest, NoToTheQuestionLeavesTheMemberAndTheWindow) {
+  Write_Sample_Log();
+  const std::string log = Read_File("Schedule.tmp");
+  Press_Keys(large(), QKeySequence("Shift+F3"));
+  Click_Entry(form().lstListOfPeople, "Ben");
+  machine().Answer_Next(vbNo, "Confirm Entity Delete");
+  Click(form().cmdDelete);
+  EXPECT_TRUE(form().isVisible());
+  EXPECT_EQ(Read_File("Schedule.tmp"), log);
+}
+
 // ---- Frame 2: choosing a task -------------------------------------------------------------------------
 
 TEST_F(MultiPurposeMembersTest, DeletingATaskFromAnEmptyLogOffersNothing) {
@@ -183,8 +211,8 @@ TEST_F(MultiPurposeMembersTest, ChoosingAMemberListsTheirTasksInTimeOrder) {
   EXPECT_EQ(form().cboListOfPeople->currentText().toStdString(), "");
   EXPECT_FALSE(form().cmdDelete_1->isEnabled());
   Choose_In_Combo(form().cboListOfPeople, "Anna");
-  EXPECT_EQ(Entries(form().lstListOfTasks), (std::vector<std::string>{"2000, 12Dec 31, 23:59 Party, #3",
-                                                                     "2001, 03Mar 05, 14:30 Dentist, #1"}));
+  EXPECT_EQ(Entries(form().lstListOfTasks),
+            (std::vector<std::string>{"2000, 12Dec 31, 23:59 Party, #3", "2001, 03Mar 05, 14:30 Dentist, #1"}));
   EXPECT_FALSE(form().cmdDelete_1->isEnabled());
 }
 
@@ -202,9 +230,9 @@ TEST_F(MultiPurposeMembersTest, TasksOfTheSameMinuteDifferByNameAndNumber) {
              Task_At(9, "Anna", 2001, "March", "05", "14", "30", "Call")});
   Press_Keys(large(), QKeySequence("Ctrl+F3"));
   Choose_In_Combo(form().cboListOfPeople, "Anna");
-  EXPECT_EQ(Entries(form().lstListOfTasks), (std::vector<std::string>{"2001, 03Mar 05, 14:30 Call, #9",
-                                                                     "2001, 03Mar 05, 14:30 Dentist, #12",
-                                                                     "2001, 03Mar 05, 14:30 Dentist, #7"}));
+  EXPECT_EQ(Entries(form().lstListOfTasks),
+            (std::vector<std::string>{"2001, 03Mar 05, 14:30 Call, #9", "2001, 03Mar 05, 14:30 Dentist, #12",
+                                      "2001, 03Mar 05, 14:30 Dentist, #7"}));
 }
 
 TEST_F(MultiPurposeMembersTest, ChoosingATaskEnablesTheButtonAndChoosingAMemberDisablesIt) {
@@ -229,6 +257,42 @@ TEST_F(MultiPurposeMembersTest, ViewShowsTheTaskNamedByTheNumberBehindTheLastHas
   ASSERT_TRUE(information().isVisible());
   EXPECT_EQ(Caption(information().lblTaskName), "Room #1");
   EXPECT_EQ(Caption(information().lblRecordNumber), "2");
+}
+
+// Enter presses Delete while the focus stands in the member box: the task leaves both files.
+TEST_F(MultiPurposeMembersTest, EnterDeletesTheChosenTaskFromTheLogAndItsReminders) {
+  Write_Sample_Log();
+  organizer::samples::Write_Log(organizer::kTaskReminderFile,
+                                {Task_At(1, "Anna", 2001, "March", "05", "14", "30", "Dentist"),
+                                 Task_At(3, "Anna", 2000, "December", "31", "23", "59", "Party")});
+  Open_Organizer();
+  Press_Keys(large(), QKeySequence("Ctrl+F3"));
+  Choose_In_Combo(form().cboListOfPeople, "Anna");
+  Click_Entry(form().lstListOfTasks, "2001, 03Mar 05, 14:30 Dentist, #1");
+  form().cboListOfPeople->setFocus();
+  machine().Answer_Next(vbYes, "Confirm Event Delete");
+  Press_Keys(form(), QKeySequence(Qt::Key_Return));
+  EXPECT_FALSE(form().isVisible());
+  EXPECT_EQ(Entries(form().lstListOfTasks), std::vector<std::string>{"2000, 12Dec 31, 23:59 Party, #3"});
+  std::vector<int> numbers;
+  organizer::For_Each_Record(organizer::kScheduleFile, [&](const organizer::ScheduleRecord& r) {
+    numbers.push_back(static_cast<int>(r.Record_Number.whole()));
+  });
+  EXPECT_EQ(numbers, (std::vector<int>{-1, 2, -1, 3}));
+  std::vector<int> reminders;
+  organizer::For_Each_Record(organizer::kTaskReminderFile, [&](const organizer::ScheduleRecord& r) {
+    reminders.push_back(static_cast<int>(r.Record_Number.whole()));
+  });
+  EXPECT_EQ(reminders, std::vector<int>{3});
+  EXPECT_EQ(organizer().Save_File_Prompt_Flag, 1);
+}
+
+TEST_F(MultiPurposeMembersTest, ViewingWithNoTaskChosenShowsNothing) {
+  Write_Sample_Log();
+  Press_Keys(large(), QKeySequence("Ctrl+I"));
+  Choose_In_Combo(form().cboListOfPeople, "Anna");
+  organizer().View_Task_Event_Information(organizer::kMultiPurposeDelete1, Value("N\\A"));
+  EXPECT_FALSE(information().isVisible());
 }
 
 // Enter presses View while the focus stands in the member box; Escape closes.

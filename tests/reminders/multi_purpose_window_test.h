@@ -1,6 +1,9 @@
 #pragma once
 // What the tests of the multi-purpose window share: the program started as the user starts it, a
 // log in the working file, the window asked for by an origin, and what it shows read back.
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <string>
@@ -14,6 +17,28 @@
 #include "shell/frmAbout.h"
 
 namespace orrivane::testing {
+
+// Every control of a frame (or group box) stands within it, none covers another of the same
+// parent, and no caption is cut.
+inline void Expect_Placed_Apart(const QWidget* parent) {
+  const QList<QWidget*> children = parent->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+  for (const QWidget* child : children) {
+    if (child->objectName().isEmpty()) continue;  // the inner parts of a control
+    EXPECT_TRUE(parent->rect().contains(child->geometry()))
+        << child->objectName().toStdString() << " is cut by " << parent->objectName().toStdString();
+    for (const QWidget* other : children) {
+      if (other == child || other->objectName().isEmpty()) continue;
+      EXPECT_FALSE(child->geometry().intersects(other->geometry()))
+          << child->objectName().toStdString() << " covers " << other->objectName().toStdString();
+    }
+    const bool captioned = qobject_cast<const QLabel*>(child) != nullptr ||
+                           qobject_cast<const QAbstractButton*>(child) != nullptr;
+    if (captioned) {
+      EXPECT_LE(child->sizeHint().width(), child->width()) << child->objectName().toStdString() << "'s caption is cut";
+    }
+    if (qobject_cast<const QGroupBox*>(child) != nullptr) Expect_Placed_Apart(child);
+  }
+}
 
 class MultiPurposeWindowTest : public TaskWindowTest {
  protected:
