@@ -32,6 +32,10 @@ void Save_Log() { Window<frmScheduler_Reminder>().Quick_Schedule_File_Save(); }
 void Save_Log_As() { Window<frmScheduler_Reminder>().Activate_Save_File_Window(); }
 void Organizer() { controls::Show_In_Front(Window<frmScheduler_Reminder>()); }
 void Add_New_Task() { Window<frmScheduler_Reminder>().Open_Add_New_Task_Window(); }
+void Task_Event_Info() { Window<frmScheduler_Reminder>().Select_Task_Info_Window(); }
+void Add_New_Group_Member() { Window<frmScheduler_Reminder>().Add_New_Group_Member(); }
+void Delete_A_Task_Event() { Window<frmScheduler_Reminder>().Delete_A_Task_From_Menu(); }
+void Delete_Group_Member() { Window<frmScheduler_Reminder>().Delete_Group_Member_From_Menu(); }
 void Find_Time_Length() { controls::Show_In_Front(Window<frmFindDateDifference>()); }
 void Help_Contents() { controls::Show_In_Front(Window<frmHelpContents>()); }
 void License() { controls::Show_In_Front(Window<frmLiscense>()); }
@@ -71,16 +75,16 @@ constexpr CalendarMenuRow kCalendarMenu[] = {
     {"mnuMonth", "mnuNext", "mnuNext", "Next", "Ctrl+N", Next_Month},
     {"mnuMonth", "mnuPrevious", "mnuPrevious", "Previous", "Ctrl+P", Prior_Month},
     {"mnuMonth", "mnuSelect", "mnuSelect", "Select...", "Ctrl+M", Select_Month},
-    {"mnuView", "mnuTaskEventInfo", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I", nullptr, false, kLater},
+    {"mnuView", "mnuTaskEventInfo", "mnuTaskEventInfo", "Task\\Event Info...", "Ctrl+I", Task_Event_Info},
     {"", "mnuLog", "mnuLog", "&Log", ""},
     {"mnuLog", "mnuAddNewTaskEventToLog", "mnuAddNewTaskEventToLog", "Add New Task\\Event To Log...", "Ctrl+E",
      Add_New_Task},
-    {"mnuLog", "mnuAddNewGroupMember", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G", nullptr,
-     false, kLater},
-    {"mnuLog", "mnuDeleteATaskEvent", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3", nullptr, false,
-     kLater},
+    {"mnuLog", "mnuAddNewGroupMember", "mnuAddNewGroupMember", "Add New Group Member To Log...", "Ctrl+G",
+     Add_New_Group_Member},
+    {"mnuLog", "mnuDeleteATaskEvent", "mnuDeleteATaskEvent", "Delete A Task\\Event...", "Ctrl+F3",
+     Delete_A_Task_Event},
     {"mnuLog", "mnuDeleteGroupMember", "mnuDeleteGroupMember", "Delete Group Member From Log...", "Shift+F3",
-     nullptr, false, kLater},
+     Delete_Group_Member},
     {"", "mnuTools", "mnuTools", "&Tools", ""},
     {"mnuTools", "mnuConvertDate", "mnuConvertThisDate", "Convert This Date...", "Ctrl+C", Convert_This_Date},
     {"mnuTools", "mnuFindADatesWeekday", "mnuFindADatesWeekday", "Find A Date's Weekday", "Ctrl+W",

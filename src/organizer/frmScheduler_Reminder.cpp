@@ -56,11 +56,13 @@ constexpr int kListsTop = kStepTop + kButtonHeight + 16;
 constexpr int kListTop = kListsTop + 22;
 constexpr int kListHeight = 164;
 constexpr int kUnderListsTop = kListTop + kListHeight + 6;
+constexpr int kDeleteRowTop = kUnderListsTop + kButtonHeight + 6;  // the delete buttons, under the others
 constexpr int kPeopleWidth = 180;
 constexpr int kTasksLeft = kMargin + kPeopleWidth + 12;
 constexpr int kTasksWidth = 340;
 constexpr int kFilterLeft = kTasksLeft + kTasksWidth + 12;
-constexpr int kFileTop = kUnderListsTop + kButtonHeight + 14;
+constexpr int kTaskButtonWidth = 220;
+constexpr int kFileTop = kDeleteRowTop + kButtonHeight + 14;
 constexpr int kWindowWidth = kChartRight + 16 + kMargin + 6;
 constexpr int kWindowHeight = kFileTop + 30;
 
@@ -87,6 +89,7 @@ frmScheduler_Reminder::frmScheduler_Reminder() {
   Connect_Tasks();
   Connect_Log();
   Connect_New_Task();
+  Connect_Delete();
   connect(cmdCloseScheduler, &QPushButton::clicked, this, [this] { cmdCloseScheduler_Click(); });
   menu->On("mnuCloseScheduler", [this] { cmdCloseScheduler_Click(); });
 }
@@ -135,6 +138,12 @@ void frmScheduler_Reminder::Build_Lists() {
   lstScheduleList->setSortingEnabled(true);
   cmdViewTaskInformation = Make_Button(body, "cmdViewTaskInformation", "View Task\\Event Information");
   cmdViewTaskInformation->setEnabled(false);
+  cmdDeleteSelectedRecord = Make_Button(body, "cmdDeleteSelectedRecord", "Delete Selected Record");
+  // Each delete button waits for a click on an entry of its list. Made after the others, so
+  // that Tab still goes from a list's button to the task list and comes to them last.
+  cmdDeleteSelectedRecord->setEnabled(false);
+  cmdDelete = Make_Button(body, "cmdDelete", "Delete");
+  cmdDelete->setEnabled(false);
   lblFileNameLabel = Make_Label(body, "lblFileNameLabel", "Log File:");
   lblFileName = Make_Label(body, "lblFileName");
   cmdCloseScheduler = Make_Button(body, "cmdCloseScheduler", "Close");
@@ -194,7 +203,9 @@ void frmScheduler_Reminder::Place_Controls() {
   cmdShowTaskList->setGeometry(kMargin, kUnderListsTop, kPeopleWidth, kButtonHeight);
   lblGroupMemberName->setGeometry(kTasksLeft, kListsTop, kTasksWidth, 20);
   lstScheduleList->setGeometry(kTasksLeft, kListTop, kTasksWidth, kListHeight);
-  cmdViewTaskInformation->setGeometry(kTasksLeft, kUnderListsTop, 220, kButtonHeight);
+  cmdViewTaskInformation->setGeometry(kTasksLeft, kUnderListsTop, kTaskButtonWidth, kButtonHeight);
+  cmdDelete->setGeometry(kMargin, kDeleteRowTop, kPeopleWidth, kButtonHeight);
+  cmdDeleteSelectedRecord->setGeometry(kTasksLeft, kDeleteRowTop, kTaskButtonWidth, kButtonHeight);
 
   const int filter_width = kWindowWidth - kFilterLeft - kMargin;
   optDisplayAll->setGeometry(kFilterLeft, kListsTop, filter_width, 20);

@@ -52,6 +52,8 @@ class frmScheduler_Reminder : public QMainWindow {
   QLabel* lblGroupMemberName;
   QListWidget* lstScheduleList;  // sorted: "2001, 03Mar 05, 14:30 Dentist, #1"
   QPushButton* cmdViewTaskInformation;
+  QPushButton* cmdDelete;                // "Delete": the member chosen in lstListOfPeople
+  QPushButton* cmdDeleteSelectedRecord;  // "Delete Selected Record": the task chosen in lstScheduleList
   QRadioButton* optDisplayAll;
   QRadioButton* optDisplayOnlyFilteredTasks;
   QGroupBox* fraDisplayOnlyTasksEvents;
@@ -125,7 +127,8 @@ class frmScheduler_Reminder : public QMainWindow {
   void Delete_A_Group_Member(std::string_view Calling_Sub_Origin);
 
   // ---- The multi-purpose window's ways in (frmScheduler_ReminderMultiPurpose.cpp) -------------
-  // Sets frmMultiPurposeForm up for the purpose its origin names and shows it.
+  // Sets frmMultiPurposeForm up for the purpose its origin names and shows it; any other origin
+  // leaves it blank and hidden. The four below are the menu entries of the calendar windows.
   void Multipurpose_Form(std::string_view Calling_Sub_Origin);
   void Add_New_Group_Member();
   void Delete_Group_Member_From_Menu();
@@ -160,7 +163,6 @@ class frmScheduler_Reminder : public QMainWindow {
   void Connect_Log();
   void Connect_New_Task();
   void Connect_Delete();
-  void Connect_Multi_Purpose();
   void Connect_Non_Task();
   void Connect_Print_Log();
   void Form_Activate();

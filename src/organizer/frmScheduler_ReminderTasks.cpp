@@ -14,6 +14,7 @@
 #include "platform/message_box.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
+#include "reminders/frmMultiPurposeForm.h"
 #include "reminders/frmReminderWindow.h"
 #include "reminders/reminder_tick.h"
 
@@ -84,6 +85,13 @@ std::optional<Value> Chart_Cell_Owner(frmScheduler_Reminder& organizer, const Va
   return std::nullopt;
 }
 
+// The task chosen in the multi-purpose window's list; nothing where none is chosen.
+std::optional<Value> Multi_Purpose_Task(frmScheduler_Reminder&, const Value&) {
+  const std::string chosen = Window<frmMultiPurposeForm>().Chosen_Task();
+  if (chosen.empty()) return std::nullopt;
+  return Number_Of_Entry(QString::fromStdString(chosen));
+}
+
 // The task of the reminder window: the chosen entry of its list where the list stands, else the
 // task it shows alone.
 std::optional<Value> Reminder_Window_Task(frmScheduler_Reminder&, const Value&) {
@@ -106,6 +114,7 @@ constexpr NumberRoute kNumberRoutes[] = {
     {organizer::kCboAppointmentsClick, Chosen_Appointment},
     {organizer::kLblChartHistoryListClick, Chart_Cell_Owner},
     {organizer::kReminderWindowMoreDetails, Reminder_Window_Task},
+    {organizer::kMultiPurposeDelete1, Multi_Purpose_Task},
 };
 
 }  // namespace
@@ -158,14 +167,21 @@ void frmScheduler_Reminder::Display_A_Persons_TaskList() {
   }
   lstScheduleList->addItems(entries);
   // No entry is selected now.
+  cmdDeleteSelectedRecord->setEnabled(false);
   cmdViewTaskInformation->setEnabled(false);
 }
 
-void frmScheduler_Reminder::lstListOfPeople_Click() { Display_A_Persons_TaskList(); }
+void frmScheduler_Reminder::lstListOfPeople_Click() {
+  Display_A_Persons_TaskList();
+  cmdDelete->setEnabled(true);
+}
 
 void frmScheduler_Reminder::cmdShowTaskList_Click() { Display_A_Persons_TaskList(); }
 
-void frmScheduler_Reminder::lstScheduleList_Click() { cmdViewTaskInformation->setEnabled(true); }
+void frmScheduler_Reminder::lstScheduleList_Click() {
+  cmdDeleteSelectedRecord->setEnabled(true);
+  cmdViewTaskInformation->setEnabled(true);
+}
 
 void frmScheduler_Reminder::lstScheduleList_DblClick() {
   View_Task_Event_Information(organizer::kLstScheduleListDblClick, kNoIndex);

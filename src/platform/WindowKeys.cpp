@@ -9,6 +9,8 @@
 #include <QTextEdit>
 #include <QWidget>
 
+#include "platform/controls.h"
+
 namespace orrivane::platform {
 
 namespace {
@@ -34,6 +36,13 @@ QPushButton* Default_Button(const QWidget* window) {
   return nullptr;
 }
 
+QPushButton* Cancel_Button(const QWidget* window) {
+  for (QPushButton* button : window->findChildren<QPushButton*>()) {
+    if (controls::Is_Cancel(button) && button->isVisible() && button->isEnabled()) return button;
+  }
+  return nullptr;
+}
+
 class WindowKeys : public QObject {
  public:
   using QObject::QObject;
@@ -42,7 +51,10 @@ class WindowKeys : public QObject {
     if (!watched->isWidgetType()) return false;
     auto* widget = static_cast<QWidget*>(watched);
     if (event->type() == QEvent::ShortcutOverride) return Refuse_Menu_Key(widget, static_cast<QKeyEvent*>(event));
-    if (event->type() == QEvent::KeyPress) return Press_On_Enter(widget, static_cast<QKeyEvent*>(event));
+    if (event->type() == QEvent::KeyPress) {
+      const auto* key = static_cast<QKeyEvent*>(event);
+      return Press_On_Enter(widget, key) || Press_On_Escape(widget, key);
+    }
     return false;
   }
 
@@ -61,6 +73,16 @@ class WindowKeys : public QObject {
     QPushButton* button = qobject_cast<QPushButton*>(widget);
     if (button == nullptr) button = Default_Button(widget->window());
     if (button == nullptr || !button->isEnabled()) return false;
+    button->click();
+    return true;
+  }
+
+  // Escape presses the window's button with the Cancel role, wherever the focus is in it.
+  static bool Press_On_Escape(QWidget* widget, const QKeyEvent* key) {
+    const bool plain = (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (key->key() != Qt::Key_Escape || !plain || widget != QApplication::focusWidget()) return false;
+    QPushButton* button = Cancel_Button(widget->window());
+    if (button == nullptr) return false;
     button->click();
     return true;
   }

@@ -67,6 +67,14 @@ QComboBox* Make_Combo(QWidget* parent, const QString& name, bool editable) {
   return combo;
 }
 
+namespace {
+constexpr char kCancelRole[] = "cancel";
+}  // namespace
+
+void Set_Cancel(QPushButton* button, bool cancel) { button->setProperty(kCancelRole, cancel); }
+
+bool Is_Cancel(const QPushButton* button) { return button->property(kCancelRole).toBool(); }
+
 void Show_In_Front(QWidget& window) {
   window.show();
   window.raise();

@@ -65,6 +65,11 @@ void Set_Box_Color(QWidget* box, unsigned colour);
 inline std::string Text_Of(const QComboBox* box) { return box->currentText().toStdString(); }
 inline std::string Text_Of(const QLineEdit* box) { return box->text().toStdString(); }
 
+// The Cancel role of a button: Escape in its window presses it, as Enter presses the default
+// button (platform/WindowKeys.h). A window gives the role to one button at a time.
+void Set_Cancel(QPushButton* button, bool cancel);
+bool Is_Cancel(const QPushButton* button);
+
 // Shows a window and brings it to the front, active: how every window is asked for.
 void Show_In_Front(QWidget& window);
 

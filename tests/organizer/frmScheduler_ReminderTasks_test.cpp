@@ -185,7 +185,7 @@ TEST_F(frmScheduler_ReminderTasksTest, AnOriginNotKnownOrMiscasedSelectsNothing)
   Choose_Member("Anna");
   Click_Entry(Tasks(), "2001, 03Mar 05, 14:30 Dentist, #1");
   for (const char* origin : {"lstschedulelist_dblclick()", "lstScheduleList_DblClick", "",
-                             "frmreminderwindow.cmdMoreDetails_Click()", "frmMultiPurposeForm.cmdDelete_1_Click()"}) {
+                             "frmreminderwindow.cmdMoreDetails_Click()", "frmmultipurposeform.cmdDelete_1_Click()"}) {
     organizer().View_Task_Event_Information(origin, Value("N\\A"));
   }
   EXPECT_FALSE(information().isVisible());

@@ -1,9 +1,7 @@
 // Pictures of the two reminder windows with a short and a long message, written to the folder
 // named by ORRIVANE_SCREENSHOT_DIR; without it the test only checks that they draw.
-#include <QDir>
-#include <QImage>
-
 #include "reminders/reminder_window_test.h"
+#include "support/screenshot.h"
 
 namespace orrivane {
 namespace {
@@ -13,15 +11,7 @@ using reminders::samples::Task_With_Reminder;
 
 class ReminderScreenshots : public testing::ReminderWindowTest {
  protected:
-  void Keep(QWidget& window, const QString& name) {
-    Process_Events();
-    const QImage image = window.grab().toImage();
-    EXPECT_FALSE(image.isNull());
-    const QByteArray folder = qgetenv("ORRIVANE_SCREENSHOT_DIR");
-    if (folder.isEmpty()) return;
-    QDir().mkpath(QString::fromLocal8Bit(folder));
-    EXPECT_TRUE(image.save(QDir(QString::fromLocal8Bit(folder)).filePath(name + ".png")));
-  }
+  void Keep(QWidget& window, const QString& name) { testing::Keep_Screenshot(window, name); }
 };
 
 TEST_F(ReminderScreenshots, ShortAndLongMessages) {
