@@ -15,6 +15,9 @@
 #include "platform/controls.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
+#include "reminders/frmMultiPurposeForm.h"
+#include "reminders/frmPrintLogChart.h"
+#include "reminders/print_log.h"
 
 namespace orrivane {
 
@@ -84,6 +87,33 @@ void Paint_Chart_Labels(const ChartLabels& chart, const organizer::ChartView& vi
   }
 }
 
+ChartLabels Labels_Of(const frmPrintLogChart& page) {
+  return {page.lblChartHour, page.lblChartGroupMemberName, page.lblChartHistoryList};
+}
+
+// The chart of the print frame drawn on the printed page: the day and period of lblDate_5 and
+// lblTimePeriod_5, the selected members from the position the frame keeps for the next sheet,
+// and the log's file name. The chart on the screen is left alone.
+void Draw_Print_Chart() {
+  frmMultiPurposeForm& form = Window<frmMultiPurposeForm>();
+  frmPrintLogChart& page = Window<frmPrintLogChart>();
+  const std::optional<organizer::DateAndTime> moment =
+      reminders::Print_Chart_Moment(controls::Caption(form.lblDate_5), controls::Caption(form.lblTimePeriod_5));
+  if (!moment) return;
+  const organizer::ChartView view = organizer::View_Of(*moment);
+  const organizer::ChartLog log = organizer::Read_Chart_Log(organizer::kScheduleFile, view);
+  for (int cell = 0; cell < organizer::kPrintChartCells; ++cell) page.Chart_History_List_Content_Tracker(cell, "Put", -1);
+
+  const ChartLabels chart = Labels_Of(page);
+  Clear_Chart_Labels(chart, view);
+  Fill_Row_Labels(chart, *form.lstSelectedPeople_5, form.Store_Next_Name_Position_5("Get"));
+  controls::Set_Caption(page.lblTimePeriod, organizer::View_Caption(view));
+  controls::Set_Caption(page.lblFileName, controls::Caption(Window<Form1>().lblStoreScheduleFileName));
+  Paint_Chart_Labels(chart, view, log.tasks, [&page](int cell, const Value& record_number) {
+    page.Chart_History_List_Content_Tracker(cell, "Put", record_number);
+  });
+}
+
 }  // namespace
 
 void frmScheduler_Reminder::Connect_Chart() {
@@ -110,6 +140,7 @@ void frmScheduler_Reminder::lblChartHistoryList_Click(int Index) {
 // The whole chart in one pass: the members, the scroll bar, the view, every cell cleared and the
 // whole log read again, even for a scroll by one row.
 void frmScheduler_Reminder::Refresh_Organizer_Screen(std::string_view Calling_Procedure) {
+  if (Calling_Procedure == organizer::kMultiPurposePrint5) return Draw_Print_Chart();
   // The moment is settled first: an origin that shows no view here leaves everything as it is.
   // A step refused at the end of the years still brings the file name, the members and the
   // scroll bar up to date, and leaves the chart as it is.

@@ -20,6 +20,8 @@ constexpr QSize kPage{1056, 816};
 constexpr int kMargin = 24;
 constexpr int kTitleTop = 20;
 constexpr int kTitleHeight = 26;
+constexpr int kTitleCaptionWidth = 124;  // "Time Period:" and "Filename:"
+constexpr int kFileNameLeft = 560;
 constexpr int kHeadTop = 62;
 constexpr int kHeadHeight = 20;
 constexpr int kRowsTop = kHeadTop + kHeadHeight + 2;
@@ -32,8 +34,7 @@ constexpr int kTextPx = 12;
 constexpr int kTitlePx = 16;
 
 constexpr unsigned kPaper = 0xFFFFFF;
-// The cells' lines, drawn by the page's one style for all of them.
-constexpr char kCellStyle[] = "QLabel[chartCell=\"true\"] { border: 1px solid #c8c8c8; }";
+constexpr unsigned kCellLines = 0xC8C8C8;  // each cell's box, in its fore colour
 
 void Set_Font(QLabel* label, int pixel_size, bool bold) {
   QFont font = label->font();
@@ -48,7 +49,6 @@ frmPrintLogChart::frmPrintLogChart() {
   setObjectName("frmPrintLogChart");
   setWindowTitle("Form PrintLogChart");
   controls::Set_Back_Color(this, kPaper);
-  setStyleSheet(kCellStyle);
   cell_contents_.fill(Value(-1));
   Build_Controls();
   Place_Controls();
@@ -66,17 +66,20 @@ void frmPrintLogChart::Build_Controls() {
   }
   for (int cell = 0; cell < kPrintChartCells; ++cell) {
     QLabel* label = Make_Label(this, Array_Name("lblChartHistoryList", cell));
-    label->setProperty("chartCell", true);
+    label->setFrameShape(QFrame::Box);
+    controls::Set_Fore_Color(label, kCellLines);
     lblChartHistoryList[cell] = label;
   }
 }
 
 void frmPrintLogChart::Place_Controls() {
   setFixedSize(kPage);
-  Label4->setGeometry(kMargin, kTitleTop, 110, kTitleHeight);
-  lblTimePeriod->setGeometry(kMargin + 112, kTitleTop, 420, kTitleHeight);
-  Label7->setGeometry(600, kTitleTop, 90, kTitleHeight);
-  lblFileName->setGeometry(692, kTitleTop, kPage.width() - kMargin - 692, kTitleHeight);
+  Label4->setGeometry(kMargin, kTitleTop, kTitleCaptionWidth, kTitleHeight);
+  lblTimePeriod->setGeometry(kMargin + kTitleCaptionWidth, kTitleTop, kFileNameLeft - kMargin - kTitleCaptionWidth - 8,
+                             kTitleHeight);
+  Label7->setGeometry(kFileNameLeft, kTitleTop, kTitleCaptionWidth, kTitleHeight);
+  lblFileName->setGeometry(kFileNameLeft + kTitleCaptionWidth, kTitleTop,
+                           kPage.width() - kMargin - kFileNameLeft - kTitleCaptionWidth, kTitleHeight);
   for (QLabel* title : {Label4, lblTimePeriod, Label7, lblFileName}) Set_Font(title, kTitlePx, title != lblFileName);
 
   Label3->setGeometry(kMargin, kHeadTop, kNameWidth, kHeadHeight);
