@@ -1,6 +1,7 @@
 #include "reminders/frmPrintLogChart.h"
 
 #include "core/runtime_failure.h"
+#include "platform/PrintedPage.h"
 #include "platform/controls.h"
 
 namespace orrivane {
@@ -15,9 +16,11 @@ using organizer::kColumnsPerHead;
 using organizer::kPrintChartCells;
 using organizer::kPrintChartRows;
 
-// The page: a landscape sheet of 11 by 8.5 inches at 96 pixels to the inch, and its parts.
-constexpr QSize kPage{1056, 816};
-constexpr int kMargin = 24;
+using printed_page::kMargin;
+using printed_page::Set_Font;
+
+// The parts of the page.
+constexpr QSize kPage = printed_page::kLandscape;
 constexpr int kTitleTop = 20;
 constexpr int kTitleHeight = 26;
 constexpr int kTitleCaptionWidth = 124;  // "Time Period:" and "Filename:"
@@ -33,22 +36,14 @@ constexpr int kHeadWidth = kColumnsPerHead * kCellWidth;
 constexpr int kTextPx = 12;
 constexpr int kTitlePx = 16;
 
-constexpr unsigned kPaper = 0xFFFFFF;
 constexpr unsigned kCellLines = 0xC8C8C8;  // each cell's box, in its fore colour
-
-void Set_Font(QLabel* label, int pixel_size, bool bold) {
-  QFont font = label->font();
-  font.setPixelSize(pixel_size);
-  font.setBold(bold);
-  label->setFont(font);
-}
 
 }  // namespace
 
 frmPrintLogChart::frmPrintLogChart() {
   setObjectName("frmPrintLogChart");
   setWindowTitle("Form PrintLogChart");
-  controls::Set_Back_Color(this, kPaper);
+  controls::Set_Back_Color(this, printed_page::kPaper);
   cell_contents_.fill(Value(-1));
   Build_Controls();
   Place_Controls();

@@ -1,5 +1,6 @@
 #include "reminders/frmPrintTaskList.h"
 
+#include "platform/PrintedPage.h"
 #include "platform/controls.h"
 
 namespace orrivane {
@@ -7,10 +8,11 @@ namespace orrivane {
 namespace {
 
 using controls::Array_Name;
+using printed_page::kMargin;
+using printed_page::Set_Font;
 
-// The page: a landscape sheet of 11 by 8.5 inches at 96 pixels to the inch, and its parts.
-constexpr QSize kPage{1056, 816};
-constexpr int kMargin = 24;
+// The parts of the page.
+constexpr QSize kPage = printed_page::kLandscape;
 constexpr QRect kHeading{kMargin, 14, kPage.width() - 2 * kMargin, 36};
 constexpr int kRowsTop = 58;
 constexpr int kRowStep = (kPage.height() - kMargin - kRowsTop) / frmPrintTaskList::kRows;
@@ -28,15 +30,7 @@ constexpr int kTimesValueLeft = kTimesLeft + kCaptionWidth;
 constexpr int kTextPx = 14;
 constexpr int kHeadingPx = 22;
 
-constexpr unsigned kPaper = 0xFFFFFF;
 constexpr unsigned kLines = 0x808080;
-
-void Set_Font(QWidget* control, int pixel_size, bool bold) {
-  QFont font = control->font();
-  font.setPixelSize(pixel_size);
-  font.setBold(bold);
-  control->setFont(font);
-}
 
 QLabel* Make_Row_Label(QWidget* parent, const char* name, int row, const char* caption = "") {
   QLabel* label = controls::Make_Label(parent, Array_Name(name, row), caption);
@@ -56,7 +50,7 @@ QFrame* Make_Line(QWidget* parent, const char* name, int row) {
 frmPrintTaskList::frmPrintTaskList() {
   setObjectName("frmPrintTaskList");
   setWindowTitle("Form PrintTaskList");
-  controls::Set_Back_Color(this, kPaper);
+  controls::Set_Back_Color(this, printed_page::kPaper);
   Build_Controls();
   Place_Controls();
 }

@@ -97,6 +97,14 @@ class PrintLogTest : public testing::MultiPurposeWindowTest {
     if (!keep->isChecked()) Click(keep);
     if (drop->isChecked()) Click(drop);
   }
+  // A log of `count` members, all of them selected, and the chart alone printed.
+  void Print_Chart_Of_All_Members(int count) {
+    Write_Log(Members(count));
+    Press_F2_In_Organizer();
+    Print_Only(form().chkTaskChart_5, form().chkTaskList_5);
+    Click(form().cmdSelectAll_5);
+    Print();
+  }
 
   // ---- The sheets, as images --------------------------------------------------------------------
   static bool Ink_In(const QImage& sheet, const QRect& area) {
@@ -303,11 +311,7 @@ TEST_F(PrintLogTest, TheDisplayUseOfTheSelectionWindowStillShowsOnTheChart) {
 // ---- The chart's sheets ----------------------------------------------------------------------------
 
 TEST_F(PrintLogTest, ThirtyThreeSelectedMembersMakeTwoChartSheetsTheSecondWithOneRow) {
-  Write_Log(Members(33));
-  Press_F2_In_Organizer();
-  Print_Only(form().chkTaskChart_5, form().chkTaskList_5);
-  Click(form().cmdSelectAll_5);
-  Print();
+  Print_Chart_Of_All_Members(33);
   const testing::PrintJob& job = Only_Job();
   EXPECT_EQ(job.document_name, "Orrivane-log-chart-2001-03-05-Morning");
   ASSERT_EQ(job.pages.size(), 2u);
@@ -322,11 +326,7 @@ TEST_F(PrintLogTest, ThirtyThreeSelectedMembersMakeTwoChartSheetsTheSecondWithOn
 }
 
 TEST_F(PrintLogTest, ThirtyTwoMembersMakeOneChartSheet) {
-  Write_Log(Members(32));
-  Press_F2_In_Organizer();
-  Print_Only(form().chkTaskChart_5, form().chkTaskList_5);
-  Click(form().cmdSelectAll_5);
-  Print();
+  Print_Chart_Of_All_Members(32);
   ASSERT_EQ(Only_Job().pages.size(), 1u);
   EXPECT_EQ(Chart_Rows(Only_Job().pages[0]), 32);
 }
