@@ -30,6 +30,7 @@ void Find_Holiday_Dates() { controls::Show_In_Front(Window<frmFindAHoliday>()); 
 void New_Log() { Window<frmScheduler_Reminder>().Open_New_Schedule(); }
 void Save_Log() { Window<frmScheduler_Reminder>().Quick_Schedule_File_Save(); }
 void Save_Log_As() { Window<frmScheduler_Reminder>().Activate_Save_File_Window(); }
+void Print_Log() { Window<frmScheduler_Reminder>().Activate_Print_Log_Screen(); }
 void Organizer() { controls::Show_In_Front(Window<frmScheduler_Reminder>()); }
 void Add_New_Task() { Window<frmScheduler_Reminder>().Open_Add_New_Task_Window(); }
 void Task_Event_Info() { Window<frmScheduler_Reminder>().Select_Task_Info_Window(); }
@@ -69,7 +70,7 @@ constexpr CalendarMenuRow kCalendarMenu[] = {
     {"mnuFile", "mnuOpenLog", "mnuOpenLog", "Open Log...", "Ctrl+O"},  // each window names itself to the open window
     {"mnuFile", kSaveLog, kSaveLog, "Save Log", "Ctrl+S", Save_Log},
     {"mnuFile", "mnuSaveLogAs", "mnuSaveLogAs", "Save Log As...", "Ctrl+V", Save_Log_As},
-    {"mnuFile", "mnuPrintLog", "mnuPrintLog", "Print Log...", "F2", nullptr, false, kLater},
+    {"mnuFile", "mnuPrintLog", "mnuPrintLog", "Print Log...", "F2", Print_Log},
     {"mnuFile", "mnuPrintCalendar", "mnuPrintCalendar", "Print Calendar...", "Ctrl+F2", Print_Calendar},
     {"mnuFile", "mnuExit", "mnuExit", "Exit", "Ctrl+Q"},
     {"", "mnuView", "mnuView", "&View", ""},

@@ -1,6 +1,7 @@
 #include "calendar/frmPrintCalendar.h"
 
 #include "engine/calendar_engine.h"
+#include "platform/PrintedPage.h"
 #include "platform/controls.h"
 
 namespace orrivane {
@@ -9,9 +10,10 @@ namespace {
 
 using engine::kGridColumns;
 
-// The page: a landscape sheet of 11 by 8.5 inches at 96 pixels to the inch, and its parts.
-constexpr QSize kPage{1056, 816};
-constexpr int kMargin = 24;
+using printed_page::kMargin;
+
+// The parts of the page.
+constexpr QSize kPage = printed_page::kLandscape;
 constexpr QRect kCalendarName{kMargin, 16, kPage.width() - 2 * kMargin, 32};
 constexpr QRect kMonthYear{kMargin, 50, kPage.width() - 2 * kMargin, 48};
 constexpr QRect kGrid{kMargin, 108, kPage.width() - 2 * kMargin, kPage.height() - 108 - kMargin};
@@ -20,18 +22,14 @@ constexpr int kHeadBand = 64;
 constexpr int kLetterHeight = 30;
 constexpr int kDateFontPx = 40;
 
-void Set_Font(QLabel* label, int pixel_size) {
-  QFont font = label->font();
-  font.setPixelSize(pixel_size);
-  font.setBold(true);
-  label->setFont(font);
-}
+// Every text of the calendar page is bold.
+void Set_Font(QLabel* label, int pixel_size) { printed_page::Set_Font(label, pixel_size, true); }
 
 }  // namespace
 
 frmPrintCalendar::frmPrintCalendar() : face(this, CalendarFace::Sides::None) {
   setObjectName("frmPrintCalendar");
-  controls::Set_Back_Color(this, 0xFFFFFF);  // the paper
+  controls::Set_Back_Color(this, printed_page::kPaper);
   lblCalendarNameOverCalendar = controls::Make_Label(this, "lblCalendarNameOverCalendar");
   lblMonthYear = controls::Make_Label(this, "lblMonthYear");
   for (int i = 0; i < kGridColumns; ++i) {

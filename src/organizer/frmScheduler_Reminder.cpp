@@ -16,9 +16,6 @@ using controls::Make;
 using controls::Make_Button;
 using controls::Make_Label;
 
-constexpr bool kSubmenu = true;
-constexpr bool kLater = true;
-
 // Captions where the program's help names the shortcut in its own words.
 constexpr MenuEntry kOrganizerMenu[] = {
     {"", "mnuFile", "&File", ""},
@@ -26,7 +23,7 @@ constexpr MenuEntry kOrganizerMenu[] = {
     {"mnuFile", "mnuOpenSchedule", "Open An Existing Log File...", "Ctrl+O"},
     {"mnuFile", "mnuSave", "Save Log", "Ctrl+S"},
     {"mnuFile", "mnuSaveAs", "Save Log As...", "Ctrl+V"},
-    {"mnuFile", "mnuPrintLog", "Print Log...", "F2", !kSubmenu, kLater},
+    {"mnuFile", "mnuPrintLog", "Print Log...", "F2"},
     {"mnuFile", "mnuPrintSCreen", "Print Window", ""},
     {"mnuFile", "mnuCloseScheduler", "Close the Organizer", "Ctrl+C"},
     {"", "mnuLog", "&Log", ""},
@@ -90,6 +87,7 @@ frmScheduler_Reminder::frmScheduler_Reminder() {
   Connect_Log();
   Connect_New_Task();
   Connect_Delete();
+  Connect_Print_Log();
   connect(cmdCloseScheduler, &QPushButton::clicked, this, [this] { cmdCloseScheduler_Click(); });
   menu->On("mnuCloseScheduler", [this] { cmdCloseScheduler_Click(); });
 }

@@ -1,6 +1,8 @@
 // The task chart of the Organizer: its view, stepping through the periods, painting the tasks.
 #include <QSignalBlocker>
 #include <algorithm>
+#include <functional>
+#include <span>
 #include <vector>
 
 #include "calendar/Form1.h"
@@ -13,6 +15,9 @@
 #include "platform/controls.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
+#include "reminders/frmMultiPurposeForm.h"
+#include "reminders/frmPrintLogChart.h"
+#include "reminders/print_log.h"
 
 namespace orrivane {
 
@@ -28,6 +33,86 @@ bool Is_Refreshing_Origin(std::string_view origin) {
 }
 
 void Make_Transparent(QLabel* label) { label->setAutoFillBackground(false); }
+
+// The labels of a chart: the screen's, or those of the printed page.
+struct ChartLabels {
+  std::span<QLabel* const> heads;
+  std::span<QLabel* const> rows;
+  std::span<QLabel* const> cells;
+};
+
+ChartLabels Labels_Of(const frmScheduler_Reminder& screen) {
+  return {screen.lblChartHour, screen.lblChartGroupMemberName, screen.lblChartHistoryList};
+}
+
+// Writes the period's heads, empties the rows and makes every cell transparent.
+void Clear_Chart_Labels(const ChartLabels& chart, const organizer::ChartView& view) {
+  const organizer::ChartHeads& heads = *organizer::kTimePeriods[static_cast<std::size_t>(view.period)].heads;
+  for (int head = 0; head < organizer::kChartHeads; ++head) {
+    controls::Set_Caption(chart.heads[head], std::string(heads[head]));
+  }
+  for (QLabel* member : chart.rows) {
+    controls::Set_Caption(member, "");
+    Make_Transparent(member);
+  }
+  for (QLabel* cell : chart.cells) Make_Transparent(cell);
+}
+
+// Puts the members of `list` on the rows in order, from `first_row_member` on, as many as there
+// are rows and stopping at the end of the list.
+void Fill_Row_Labels(const ChartLabels& chart, const QListWidget& list, int first_row_member) {
+  const int rows = organizer::Rows_Filled(list.count(), first_row_member, static_cast<int>(chart.rows.size()));
+  for (int row = 0; row < rows; ++row) {
+    controls::Set_Caption(chart.rows[row], list.item(first_row_member + row)->text().toStdString());
+  }
+}
+
+// Paints the tasks in view on the rows whose captions name their members, each cell once as the
+// tasks in file order leave it, and tells `keep_owner` the record number of each painted cell's
+// task.
+void Paint_Chart_Labels(const ChartLabels& chart, const organizer::ChartView& view,
+                        std::span<const organizer::ScheduleRecord> tasks,
+                        const std::function<void(int cell, const Value& record_number)>& keep_owner) {
+  std::vector<std::string> row_captions;
+  for (const QLabel* member : chart.rows) row_captions.push_back(controls::Caption(member));
+  const std::vector<organizer::PaintedTask> painted = organizer::Tasks_To_Paint(tasks, view, row_captions);
+  const int cell_count = static_cast<int>(chart.cells.size());
+  const std::vector<int> owners = organizer::Cell_Owners(painted, cell_count);
+  for (int cell = 0; cell < cell_count; ++cell) {
+    const int owner = owners[static_cast<std::size_t>(cell)];
+    if (owner == organizer::kNoTask) continue;
+    const organizer::PaintedTask& task = painted[static_cast<std::size_t>(owner)];
+    controls::Set_Back_Color(chart.cells[cell], static_cast<unsigned>(task.colour.whole()));
+    keep_owner(cell, task.record_number);
+  }
+}
+
+ChartLabels Labels_Of(const frmPrintLogChart& page) {
+  return {page.lblChartHour, page.lblChartGroupMemberName, page.lblChartHistoryList};
+}
+
+// The chart of the print frame drawn on the printed page: the day and period of lblDate_5 and
+// lblTimePeriod_5, the selected members from the position the frame keeps for the next sheet,
+// and the log's file name. The chart on the screen is left alone.
+void Draw_Print_Chart() {
+  frmMultiPurposeForm& form = Window<frmMultiPurposeForm>();
+  frmPrintLogChart& page = Window<frmPrintLogChart>();
+  const std::optional<organizer::DateAndTime> moment =
+      reminders::Print_Chart_Moment(controls::Caption(form.lblDate_5), controls::Caption(form.lblTimePeriod_5));
+  if (!moment) return;
+  const organizer::ChartView view = organizer::View_Of(*moment);
+  const organizer::ChartLog log = organizer::Read_Chart_Log(organizer::kScheduleFile, view);
+  for (int cell = 0; cell < organizer::kPrintChartCells; ++cell) page.Chart_History_List_Content_Tracker(cell, "Put", -1);
+
+  const ChartLabels chart = Labels_Of(page);
+  Clear_Chart_Labels(chart, view);
+  Fill_Row_Labels(chart, *form.lstSelectedPeople_5, form.Store_Next_Name_Position_5("Get"));
+  controls::Set_Caption(page.lblTimePeriod, organizer::View_Caption(view));
+  controls::Set_Caption(page.lblFileName, controls::Caption(Window<Form1>().lblStoreScheduleFileName));
+  Paint_Chart_Labels(chart, view, log.tasks, [&page](int cell, const Value& record_number) {
+    page.Chart_History_List_Content_Tracker(cell, "Put", record_number);
+  });
+}
 
 }  // namespace
 
@@ -55,6 +140,7 @@ void frmScheduler_Reminder::lblChartHistoryList_Click(int Index) {
 // The whole chart in one pass: the members, the scroll bar, the view, every cell cleared and the
 // whole log read again, even for a scroll by one row.
 void frmScheduler_Reminder::Refresh_Organizer_Screen(std::string_view Calling_Procedure) {
+  if (Calling_Procedure == organizer::kMultiPurposePrint5) return Draw_Print_Chart();
   // The moment is settled first: an origin that shows no view here leaves everything as it is.
   // A step refused at the end of the years still brings the file name, the members and the
   // scroll bar up to date, and leaves the chart as it is.
@@ -136,39 +222,17 @@ int frmScheduler_Reminder::Set_Chart_Scroll_Bar(int first_row_member) {
   return bar.first_row_member;
 }
 
-void frmScheduler_Reminder::Clear_Chart(const organizer::ChartView& view) {
-  const organizer::ChartHeads& heads = *organizer::kTimePeriods[static_cast<std::size_t>(view.period)].heads;
-  for (int head = 0; head < organizer::kChartHeads; ++head) {
-    controls::Set_Caption(lblChartHour[head], std::string(heads[head]));
-  }
-  for (QLabel* member : lblChartGroupMemberName) {
-    controls::Set_Caption(member, "");
-    Make_Transparent(member);
-  }
-  for (QLabel* cell : lblChartHistoryList) Make_Transparent(cell);
-}
+void frmScheduler_Reminder::Clear_Chart(const organizer::ChartView& view) { Clear_Chart_Labels(Labels_Of(*this), view); }
 
 void frmScheduler_Reminder::Fill_Rows(int first_row_member) {
-  const int rows = organizer::Rows_Filled(lstListOfPeople->count(), first_row_member, organizer::kScreenChartRows);
-  for (int row = 0; row < rows; ++row) {
-    controls::Set_Caption(lblChartGroupMemberName[row], lstListOfPeople->item(first_row_member + row)->text().toStdString());
-  }
+  Fill_Row_Labels(Labels_Of(*this), *lstListOfPeople, first_row_member);
 }
 
 void frmScheduler_Reminder::Paint_Tasks(const organizer::ChartView& view,
                                         std::span<const organizer::ScheduleRecord> tasks) {
-  std::vector<std::string> row_captions;
-  for (const QLabel* member : lblChartGroupMemberName) row_captions.push_back(controls::Caption(member));
-  const std::vector<organizer::PaintedTask> painted =
-      organizer::Tasks_To_Paint(tasks, view, row_captions);
-  const std::vector<int> owners = organizer::Cell_Owners(painted, organizer::kScreenChartCells);
-  for (int cell = 0; cell < organizer::kScreenChartCells; ++cell) {
-    const int owner = owners[static_cast<std::size_t>(cell)];
-    if (owner == organizer::kNoTask) continue;
-    const organizer::PaintedTask& task = painted[static_cast<std::size_t>(owner)];
-    controls::Set_Back_Color(lblChartHistoryList[cell], static_cast<unsigned>(task.colour.whole()));
-    Chart_History_List_Content_Tracker(cell, "Put", task.record_number);
-  }
+  Paint_Chart_Labels(Labels_Of(*this), view, tasks, [this](int cell, const Value& record_number) {
+    Chart_History_List_Content_Tracker(cell, "Put", record_number);
+  });
 }
 
 // The window is printed on the colour of active title text, and gets its own colour back after.

@@ -7,6 +7,8 @@
 #include "platform/controls.h"
 #include "platform/platform.h"
 #include "platform/window_registry.h"
+#include "reminders/frmMultiPurposeForm.h"
+#include "reminders/print_log.h"
 
 namespace orrivane {
 
@@ -117,6 +119,7 @@ void frmSelectTimePeriod::cmdDisplay_Click() {
 
   static constexpr ChoiceTarget kTargets[] = {
       {kDisplayButtonCaption, &frmSelectTimePeriod::Display_On_Organizer},
+      {kChangeButtonCaption, &frmSelectTimePeriod::Change_Print_Period},
   };
   const std::string button = cmdDisplay->text().toStdString();
   for (const ChoiceTarget& target : kTargets) {
@@ -127,6 +130,12 @@ void frmSelectTimePeriod::cmdDisplay_Click() {
 
 void frmSelectTimePeriod::Display_On_Organizer() {
   Window<frmScheduler_Reminder>().Refresh_Organizer_Screen(organizer::kSelectTimePeriodDisplay);
+}
+
+void frmSelectTimePeriod::Change_Print_Period() {
+  frmMultiPurposeForm& form = Window<frmMultiPurposeForm>();
+  controls::Set_Caption(form.lblTimePeriod_5, Text_Of(cboTimePeriod));
+  controls::Set_Caption(form.lblDate_5, reminders::Output_Style_Date(controls::Caption(lblSelectedDate)));
 }
 
 }  // namespace orrivane

@@ -27,6 +27,19 @@ Platform& Machine() {
 
 void Install(Platform* platform) { installed = platform; }
 
+void Platform::Print_Window(QWidget& window, const std::string& document_name) {
+  WindowPrintJob job(document_name, *this);
+  job.Add_Sheet(window);
+}
+
+WindowPrintJob::WindowPrintJob(const std::string& document_name, Platform& machine) : machine_(machine) {
+  machine_.Begin_Print_Job(document_name);
+}
+
+WindowPrintJob::~WindowPrintJob() { machine_.End_Print_Job(); }
+
+void WindowPrintJob::Add_Sheet(QWidget& window) { machine_.Print_Sheet(window); }
+
 void Require_Timer_Interval(int interval_ms) {
   if (interval_ms <= 0) throw std::invalid_argument("a timer needs an interval of more than 0 milliseconds");
 }

@@ -68,10 +68,16 @@ class Platform {
   // A modal message box; answers vbOK, vbCancel, vbYes or vbNo.
   virtual int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) = 0;
 
-  // One print job holding the image of a window, on one page. The document name tells the job
-  // apart in the printer's queue and names the file when the machine has no printer; an empty
-  // name leaves both to the platform.
-  virtual void Print_Window(QWidget& window, const std::string& document_name) = 0;
+  // A print job of sheets, each the image of a window on a page of its own, drawn at the
+  // printer's resolution to fill the page within its margins. The document name tells the job
+  // apart in the printer's queue and names the file when the machine has no printer: one file
+  // for the whole job; an empty name leaves both to the platform. A job that ends without a
+  // sheet prints nothing. WindowPrintJob (below) begins and ends a job around its sheets.
+  virtual void Begin_Print_Job(const std::string& document_name) = 0;
+  virtual void Print_Sheet(QWidget& window) = 0;
+  virtual void End_Print_Job() = 0;
+  // One print job holding the image of one window.
+  void Print_Window(QWidget& window, const std::string& document_name);
   void Print_Window(QWidget& window) { Print_Window(window, {}); }
   // One print job of pages of text at positions.
   virtual void Print_Text(const std::vector<TextPage>& pages) = 0;
@@ -120,6 +126,21 @@ class FailureBeingTold {
 // The platform in use. The program installs the real one at start.
 Platform& Machine();
 void Install(Platform* platform);
+
+// A print job on a machine's printer (the machine in use unless told), open while the object
+// lives: each window added is one sheet, and the job is ended (sent to the printer, or its file
+// closed) when the object goes, on every way out, so that a job is never left open.
+class WindowPrintJob {
+ public:
+  explicit WindowPrintJob(const std::string& document_name, Platform& machine = Machine());
+  ~WindowPrintJob();
+  WindowPrintJob(const WindowPrintJob&) = delete;
+  WindowPrintJob& operator=(const WindowPrintJob&) = delete;
+  void Add_Sheet(QWidget& window);
+
+ private:
+  Platform& machine_;
+};
 
 // The program's own pseudo-random sequence: a 24-bit linear congruential generator, so that a
 // seed gives the same colours on every machine.

@@ -36,6 +36,7 @@ ClockReading Clock_Reading_Of(const QDateTime& moment) {
 ClockReading QtPlatform::Read_Clock() { return Clock_Reading_Of(QDateTime::currentDateTime()); }
 
 QtPlatform::~QtPlatform() {
+  End_Print_Job();
   for (const auto& [id, timer] : timers_) delete timer;
 }
 
@@ -116,20 +117,42 @@ int QtPlatform::Message_Box(const std::string& text, int buttons, int icon, cons
   return set.size() == 1 ? vbOK : (buttons == vbYesNo ? vbNo : vbCancel);
 }
 
-void QtPlatform::Print_Window(QWidget& window, const std::string& document_name) {
-  QPrinter printer(QPrinter::HighResolution);
-  Set_Up_Printer(printer, document_name);
-  // The page is turned to the window's shape, so that its image fills the page.
-  printer.setPageOrientation(window.width() > window.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
-  QPainter painter(&printer);
+void QtPlatform::Begin_Print_Job(const std::string& document_name) {
+  End_Print_Job();
+  print_document_ = document_name;
+}
+
+// The printer is opened at the first sheet, so that a job without sheets leaves no file.
+void QtPlatform::Print_Sheet(QWidget& window) {
+  // Each page is turned to its window's shape, so that the image fills it. A printer that can't
+  // turn a page in the middle of a job keeps the first sheet's way, and the image is scaled down
+  // to fit.
+  const auto orientation = window.width() > window.height() ? QPageLayout::Landscape : QPageLayout::Portrait;
+  if (!painter_) {
+    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    Set_Up_Printer(*printer_, print_document_);
+    printer_->setPageOrientation(orientation);
+    painter_ = std::make_unique<QPainter>(printer_.get());
+  } else {
+    printer_->setPageOrientation(orientation);
+    printer_->newPage();
+  }
   // The printable part of the page, within its margins, in the printer's own dots: the window
   // is drawn there at that resolution, scaled to fill it and centred across.
-  const QRect page = painter.viewport();
+  const QSize page(printer_->width(), printer_->height());
   const double scale = std::min(page.width() / static_cast<double>(window.width()),
                                 page.height() / static_cast<double>(window.height()));
-  painter.translate(page.x() + (page.width() - window.width() * scale) / 2, page.y());
-  painter.scale(scale, scale);
-  window.render(&painter, QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
+  painter_->resetTransform();
+  painter_->translate((page.width() - window.width() * scale) / 2, 0);
+  painter_->scale(scale, scale);
+  window.render(painter_.get(), QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
+}
+
+void QtPlatform::End_Print_Job() {
+  if (painter_) painter_->end();
+  painter_.reset();
+  printer_.reset();
+  print_document_.clear();
 }
 
 void QtPlatform::Print_Text(const std::vector<TextPage>& pages) {

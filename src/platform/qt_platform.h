@@ -1,12 +1,15 @@
 #pragma once
 // The real platform: the machine's clock, timers on the window thread, Qt message boxes, the
-// default printer (or a PDF file in the current folder when the machine has no printer), the
-// system beep.
+// default printer (or a PDF file in the current folder when the machine has no printer, one
+// file a print job), the system beep.
 #include <QApplication>
 #include <QDateTime>
+#include <QPainter>
 #include <QPointer>
+#include <QPrinter>
 #include <QTimer>
 #include <map>
+#include <memory>
 
 #include "platform/platform.h"
 
@@ -28,8 +31,9 @@ class QtPlatform : public Platform {
   TimerId Start_Timer(int interval_ms, std::function<void()> tick) override;
   void Stop_Timer(TimerId timer) override;
   int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) override;
-  using Platform::Print_Window;
-  void Print_Window(QWidget& window, const std::string& document_name) override;
+  void Begin_Print_Job(const std::string& document_name) override;
+  void Print_Sheet(QWidget& window) override;
+  void End_Print_Job() override;
   void Print_Text(const std::vector<TextPage>& pages) override;
   void Beep() override;
   void Randomize(double seed) override { random_.Seed(seed); }
@@ -43,6 +47,10 @@ class QtPlatform : public Platform {
   // application end first), deleted when stopped.
   std::map<TimerId, QPointer<QTimer>> timers_;
   TimerId last_timer_ = 0;
+  // The print job under way: its name, and the printer and painter opened at its first sheet.
+  std::string print_document_;
+  std::unique_ptr<QPrinter> printer_;
+  std::unique_ptr<QPainter> painter_;
 };
 
 // The application object: its event dispatch is the one place where unhandled failures are

@@ -25,6 +25,7 @@
 #include <string_view>
 
 #include "core/value.h"
+#include "platform/platform.h"
 #include "reminders/multi_purpose.h"
 
 namespace orrivane {
@@ -129,6 +130,34 @@ class frmMultiPurposeForm : public QWidget {
   QPushButton* cmdDeSelectAll_5;
   QPushButton* cmdPrint_5;
   // ---- Declarations of frmMultiPurposeFormPrintLog.cpp go here ----
+  // Adds a member to lstListOfPeople_5, unchecked, unless an entry equals it.
+  void Add_Print_Log_Member(const std::string& member);
+  // At least one of the two boxes always stays checked; the chart's day and period can be
+  // changed only while the chart is to be printed.
+  void chkTaskChart_5_Click();
+  void chkTaskList_5_Click();
+  // A member checked is added at the end of lstSelectedPeople_5, one unchecked taken out of it.
+  void lstListOfPeople_5_ItemCheck(int Item);
+  void cmdSelectAll_5_Click();
+  void cmdDeSelectAll_5_Click();
+  // frmSelectTimePeriod, to choose the chart's day and period.
+  void cmdChange_5_Click();
+  // One print job: the chart's sheets, 32 members each, then each member's task list, six tasks
+  // a sheet, member by member.
+  void cmdPrint_5_Click();
+  // "Put" keeps the position in lstSelectedPeople_5 of the first member of the next chart sheet;
+  // every verb answers it.
+  int Store_Next_Name_Position_5(const std::string& Action_To_Perform, int Value = 0);
+  // Shows (true) or hides the controls of row Element of frmPrintTaskList, of all six rows with
+  // -1; the heading is not touched.
+  void Enable_Print_TaskList_Controls(bool Value, int Element);
+
+ private:
+  void Print_Chart_Sheets(platform::WindowPrintJob& job);
+  void Print_Task_List_Sheets(platform::WindowPrintJob& job);
+  int next_name_position_5_ = 0;  // Store_Next_Name_Position_5
+
+ public:
 
   // ==== The mechanism ===========================================================================
   // Hides the window and its six frames, takes the Default role from every button that has it in

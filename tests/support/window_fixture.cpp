@@ -184,8 +184,22 @@ int FakePlatform::Message_Box(const std::string& text, int buttons, int icon, co
   return answer;
 }
 
-void FakePlatform::Print_Window(QWidget& window, const std::string& document_name) {
-  jobs_.push_back({{window.grab().toImage()}, {}, document_name});
+void FakePlatform::Begin_Print_Job(const std::string& document_name) {
+  if (open_job_) ADD_FAILURE() << "a print job begun while " << open_job_->document_name << " was open";
+  open_job_ = PrintJob{{}, {}, document_name};
+}
+
+void FakePlatform::Print_Sheet(QWidget& window) {
+  if (!open_job_) {
+    ADD_FAILURE() << "a sheet printed outside a print job";
+    return;
+  }
+  open_job_->pages.push_back(window.grab().toImage());
+}
+
+void FakePlatform::End_Print_Job() {
+  if (open_job_ && !open_job_->pages.empty()) jobs_.push_back(std::move(*open_job_));
+  open_job_.reset();
 }
 
 void FakePlatform::Print_Text(const std::vector<platform::TextPage>& pages) {

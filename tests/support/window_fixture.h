@@ -32,10 +32,11 @@ struct ShownMessage {
   int answer = 0;
 };
 
+// A print job: its sheets as images, in order, with the job's document name.
 struct PrintJob {
   std::vector<QImage> pages;
-  std::vector<platform::TextPage> text;  // empty for a window image
-  std::string document_name;             // as the window image was sent, empty for text
+  std::vector<platform::TextPage> text;  // empty for window images
+  std::string document_name;             // as the job of window images was begun, empty for text
 };
 
 class FakePlatform : public platform::Platform {
@@ -75,8 +76,11 @@ class FakePlatform : public platform::Platform {
   platform::TimerId Start_Timer(int interval_ms, std::function<void()> tick) override;
   void Stop_Timer(platform::TimerId timer) override;
   int Message_Box(const std::string& text, int buttons, int icon, const std::string& title) override;
-  using Platform::Print_Window;
-  void Print_Window(QWidget& window, const std::string& document_name) override;
+  // A job of window images is kept when it ends, and only if it has a sheet, as the machine
+  // prints nothing for a job without one. A sheet added outside a job fails the test.
+  void Begin_Print_Job(const std::string& document_name) override;
+  void Print_Sheet(QWidget& window) override;
+  void End_Print_Job() override;
   void Print_Text(const std::vector<platform::TextPage>& pages) override;
   void Beep() override { ++beeps_; }
   void Randomize(double seed) override;
@@ -112,6 +116,7 @@ class FakePlatform : public platform::Platform {
   std::deque<Expected> answers_;
   std::vector<ShownMessage> messages_;
   std::vector<PrintJob> jobs_;
+  std::optional<PrintJob> open_job_;
   int beeps_ = 0;
   int yields_ = 0;
   std::optional<int> exit_code_;
