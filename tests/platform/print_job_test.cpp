@@ -5,6 +5,7 @@
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QWidget>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -114,6 +115,22 @@ TEST_F(RealPrinterTest, WithoutAPrinterAJobIsOnePdfWithAPageForEachSheetTurnedTo
   EXPECT_TRUE(Landscape(pages[1]));
   EXPECT_FALSE(Landscape(pages[2]));
   EXPECT_EQ(QDir(QString::fromStdString(Folder())).entryList({"*.pdf"}).size(), 1);
+}
+
+// A window drawn with transparency goes into the PDF as a picture of the page: at the resolution
+// of an office printer, not the 1200 dots an inch that made pages of several megabytes.
+TEST_F(RealPrinterTest, APageDrawnAsAPictureIsAtThreeHundredDotsAnInch) {
+  wide.setStyleSheet("background: rgba(0, 0, 255, 40%);");
+  wide.setAutoFillBackground(true);
+  real.Print_Window(wide, "Orrivane-see-through");
+  const QString pdf = QString::fromStdString(Read_File("Orrivane-see-through.pdf"));
+  static const QRegularExpression kImageWidth(R"(/Width ([0-9]+))");
+  int widest = 0;
+  for (auto found = kImageWidth.globalMatch(pdf); found.hasNext();)
+    widest = std::max(widest, found.next().captured(1).toInt());
+  const int a4_long_side_at_300_dpi = 3508;
+  EXPECT_GT(widest, a4_long_side_at_300_dpi / 2);
+  EXPECT_LE(widest, a4_long_side_at_300_dpi);
 }
 
 TEST_F(RealPrinterTest, AJobWithoutSheetsLeavesNoFile) {
