@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QWidget>
 #include <array>
@@ -70,7 +71,7 @@ class frmMultiPurposeForm : public QWidget {
   QLabel* Label4;
   QLineEdit* txtReminderTitle_3;
   QLabel* Label3;
-  QLineEdit* txtReminderMessage_3;
+  QPlainTextEdit* txtReminderMessage_3;  // may hold line breaks
   QLabel* Label6;
   QLabel* lblTimeOfMessage_3;  // "2:30 PM, March 5, 2001"
   QCheckBox* chkSet_3;

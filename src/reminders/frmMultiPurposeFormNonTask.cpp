@@ -34,9 +34,10 @@ constexpr int kTextWidth = kWidth3 - kTextLeft - kMargin;
 constexpr int kRowStep = 30;
 constexpr int kTitleTop = kMargin;
 constexpr int kMessageTop = kTitleTop + kRowStep;
+constexpr int kMessageHeight = 3 * kRowHeight;  // the message takes lines
 // The moment has a row of its own under its caption: "11:59 PM, September 30, 2199" is wider
 // than the boxes' column.
-constexpr int kMomentCaptionTop = kMessageTop + kRowStep + 2;
+constexpr int kMomentCaptionTop = kMessageTop + kMessageHeight + 8;
 constexpr int kMomentTop = kMomentCaptionTop + kRowHeight;
 constexpr int kMomentLeft = kMargin + 16;
 constexpr int kSetTop = kMomentTop + kRowStep - 4;
@@ -98,9 +99,11 @@ void frmMultiPurposeForm::Build_Non_Task_Frames() {
                         {kMargin, kComboTop + 2 * kComboStep + 3, kLabelWidth, kRowHeight}}});
   Make_Placed<QLineEdit>(*this, frame3,
                          {{&F::txtReminderTitle_3, "txtReminderTitle_3", nullptr,
-                           {kTextLeft, kTitleTop, kTextWidth, kBoxHeight}},
-                          {&F::txtReminderMessage_3, "txtReminderMessage_3", nullptr,
-                           {kTextLeft, kMessageTop, kTextWidth, kBoxHeight}}});
+                           {kTextLeft, kTitleTop, kTextWidth, kBoxHeight}}});
+  Make_Placed<QPlainTextEdit>(*this, frame3,
+                              {{&F::txtReminderMessage_3, "txtReminderMessage_3", nullptr,
+                                {kTextLeft, kMessageTop, kTextWidth, kMessageHeight}}});
+  txtReminderMessage_3->setTabChangesFocus(true);  // Enter breaks a line, Tab goes on
   Make_Placed<QCheckBox>(*this, frame3, {{&F::chkSet_3, "chkSet_3", "Set", {kMargin, kSetTop, kLabelWidth, 24}}});
   chkSet_3->setChecked(true);
   Show_NT_Status(true);
@@ -209,7 +212,7 @@ void frmMultiPurposeForm::Change_Full_String(std::string_view Part_To_Change) {
 
 void frmMultiPurposeForm::cmdAdd_3_Click() {
   const reminders::NonTaskEntry entry{chkSet_3->isChecked() ? 1 : 0, controls::Text_Of(txtReminderTitle_3),
-                                      controls::Text_Of(txtReminderMessage_3), controls::Caption(lblTimeOfMessage_3)};
+                                      controls::Lines_Of(txtReminderMessage_3), controls::Caption(lblTimeOfMessage_3)};
   if (const Message invalid = reminders::Non_Task_Date_Message(entry.label); !invalid.empty()) {
     platform::Show_Message(invalid);
     return;
@@ -266,7 +269,7 @@ void frmMultiPurposeForm::View_Or_Delete_NT_Reminder() {
       reminders::Find_Non_Task_Reminder(organizer::kNonTaskReminderFile, number);
   Selected_NT_Record_Number = number;
   controls::Set_Caption(lblTimeOfMessage_3, reminders::Cvrt_NTTimeDateStrg_To_12h_Tm(record.NT_Time_String.text()));
-  txtReminderMessage_3->setText(QString::fromStdString(record.NT_Message.text()));
+  txtReminderMessage_3->setPlainText(QString::fromStdString(record.NT_Message.text()));
   txtReminderTitle_3->setText(QString::fromStdString(record.NT_Title.text()));
   const bool on = record.NT_Status == Value(1);
   chkSet_3->setChecked(on);

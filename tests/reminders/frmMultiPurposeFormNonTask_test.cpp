@@ -75,7 +75,12 @@ class NonTaskReminderWindowTest : public testing::ReminderWindowTest {
     ASSERT_EQ(box->currentText(), entry);
   }
   void Type_Title(const QString& title) { Type(form().txtReminderTitle_3, title); }
-  void Type_Message(const QString& message) { Type(form().txtReminderMessage_3, message); }
+  // The message box keeps what it held: the typing replaces it, as a user who selects it all does.
+  void Type_Message(const QString& message) {
+    form().txtReminderMessage_3->clear();
+    Type(form().txtReminderMessage_3, message);
+  }
+  std::string Message_Text() { return controls::Lines_Of(form().txtReminderMessage_3); }
   // Enter presses the frame's default button, Add or Update.
   void Press_Enter() {
     form().txtReminderTitle_3->setFocus();
@@ -288,11 +293,39 @@ TEST_F(NonTaskReminderWindowTest, ASecondAddStartsFromTheValuesOfTheFirstAtAFres
   Open_Add();
   EXPECT_EQ(Moment(), "9:06 AM, March 5, 2001");
   EXPECT_EQ(controls::Text_Of(form().txtReminderTitle_3), "Bank");
-  EXPECT_EQ(controls::Text_Of(form().txtReminderMessage_3), "Call.");
+  EXPECT_EQ(Message_Text(), "Call.");
   EXPECT_EQ(controls::Text_Of(Box("cboHour")), "17");
   Add_Expecting_Success();
   EXPECT_EQ(reminders::Non_Task_List_Items(Path(organizer::kNonTaskReminderFile)),
             (Entries{"1 - Bank, 5:05 PM, March 5, 2001", "2 - Bank, 9:06 AM, March 5, 2001"}));
+}
+
+// The message box takes lines: Enter there breaks the line, and the file keeps the break between
+// the quotes, as the line break of the platform's text files.
+TEST_F(NonTaskReminderWindowTest, AMessageOfSeveralLinesKeepsItsLineBreaksThroughAddAndChange) {
+  Start_At(2001, 3, 5, 9, 5, 0);
+  Open_Add();
+  Type_Title("Bank");
+  Type_Message("Call the bank.");
+  form().txtReminderMessage_3->setFocus();
+  QTest::keyClick(form().txtReminderMessage_3, Qt::Key_Return);
+  QTest::keyClicks(form().txtReminderMessage_3, "Ask about the loan.");
+  EXPECT_TRUE(form().isVisible()) << "Enter in the message breaks its line and adds nothing";
+  EXPECT_FALSE(File_Present(organizer::kNonTaskReminderFile));
+  machine().Answer_Next(vbOK, "Reminded Added");
+  Click(form().cmdAdd_3);
+  Expect_Only_Message(reminders::Non_Task_Saved_Message(reminders::kAddCaption));
+  constexpr char kTwoLines[] =
+      "1\r\n1\r\n\"Bank\"\r\n\"Call the bank.\r\nAsk about the loan.\"\r\n\"09:05, March 5, 2001\"\r\n";
+  EXPECT_EQ(Reminder_File(), kTwoLines);
+
+  Open_Change_List();
+  Double_Click_Entry("1 - Bank, 9:05 AM, March 5, 2001");
+  EXPECT_EQ(Message_Text(), "Call the bank.\r\nAsk about the loan.");
+  machine().Answer_Next(vbOK, "Changes Saved");
+  Click(form().cmdAdd_3);
+  Expect_Only_Message(reminders::Non_Task_Saved_Message(reminders::kUpdateCaption));
+  EXPECT_EQ(Reminder_File(), kTwoLines);
 }
 
 // ---- The worked example, written through the windows ------------------------------------------
@@ -354,7 +387,7 @@ TEST_F(NonTaskReminderWindowTest, ADoubleClickOnAReminderShowsItForChanging) {
   EXPECT_EQ(form().cmdAdd_3->text().toStdString(), "Update");
   EXPECT_EQ(Moment(), "5:45 PM, December 31, 2001");
   EXPECT_EQ(controls::Text_Of(form().txtReminderTitle_3), "Backup");
-  EXPECT_EQ(controls::Text_Of(form().txtReminderMessage_3), "Copy the log to the other disk.");
+  EXPECT_EQ(Message_Text(), "Copy the log to the other disk.");
   EXPECT_FALSE(form().chkSet_3->isChecked());
   Expect_Status("Off", false, 0);
   EXPECT_EQ(form().Selected_NT_Record_Number, Value(4));
