@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QPlainTextEdit>
 #include <QVariant>
+#include <algorithm>
 
 namespace orrivane::controls {
 
@@ -107,6 +108,20 @@ void Show_In_Front(QWidget& window) {
 void Enable_Input(QWidget* input, bool enabled) {
   input->setEnabled(enabled);
   Set_Box_Color(input, enabled ? kWindowBackground : kButtonFace);
+}
+
+void Fit_Captions(std::initializer_list<QAbstractButton*> buttons) {
+  constexpr double kSmallestPointSize = 6;
+  constexpr double kStep = 0.5;
+  if (buttons.size() == 0) return;
+  QFont font = (*buttons.begin())->font();
+  const auto all_fit = [&] {
+    return std::all_of(buttons.begin(), buttons.end(), [&](QAbstractButton* button) {
+      button->setFont(font);
+      return button->sizeHint().width() <= button->width();
+    });
+  };
+  while (!all_fit() && font.pointSizeF() - kStep >= kSmallestPointSize) font.setPointSizeF(font.pointSizeF() - kStep);
 }
 
 std::string Lines_Of(const QPlainTextEdit* box) {

@@ -1,5 +1,6 @@
 #pragma once
 // Small helpers shared by the windows: the program's colour numbers, twips, control names.
+#include <QAbstractButton>
 #include <QColor>
 #include <QComboBox>
 #include <QLabel>
@@ -7,6 +8,7 @@
 #include <QPushButton>
 #include <QString>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <utility>
 
@@ -66,6 +68,10 @@ void Set_Box_Color(QWidget* box, unsigned colour);
 
 // An input enabled with the face of a window's background, or disabled with a button's face.
 void Enable_Input(QWidget* input, bool enabled);
+
+// Gives `buttons` one font, the largest not above their own at which every caption fits its
+// button: a window's sizes come in twips from a design whose font was narrower than this one.
+void Fit_Captions(std::initializer_list<QAbstractButton*> buttons);
 
 // Runs `procedure` each time the user gives `control` the focus (a click, a tab). Its window coming
 // back to the front, or its own list of choices closing, is no new visit.

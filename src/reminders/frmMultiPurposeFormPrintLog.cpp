@@ -64,6 +64,7 @@ void frmMultiPurposeForm::Build_Print_Log_Frame() {
                            {kMargin, kGroupTitle, kBoxInnerWidth, 24}},
                           {&F::chkTaskList_5, "chkTaskList_5", "Print Task List for Each Selected Group Member",
                            {kMargin, kGroupTitle + 24, kBoxInnerWidth, 24}}});
+  controls::Fit_Captions({chkTaskChart_5, chkTaskList_5});
   chkTaskChart_5->setChecked(true);
   chkTaskList_5->setChecked(true);
   Make_Placed<QLabel>(*this, fraPrintTaskChart_5,

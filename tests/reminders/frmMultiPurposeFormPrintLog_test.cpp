@@ -1,12 +1,14 @@
 // Printing the log: F2 opens the print frame of the multi-purpose window on the present period,
 // the user chooses what to print and whose pages, and each press of Print is one print job: the
 // chart's sheets of 32 members, then each member's task list, six tasks a sheet.
+#include <QAbstractButton>
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPrinterInfo>
 #include <QTest>
 #include <cstdlib>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -134,6 +136,17 @@ class PrintLogTest : public testing::MultiPurposeWindowTest {
 };
 
 // ---- Opening ----------------------------------------------------------------------------------------
+
+TEST_F(PrintLogTest, EveryCaptionOfTheFrameIsShownWhole) {
+  Press_F2_In_Organizer();
+  for (QAbstractButton* control : std::initializer_list<QAbstractButton*>{
+           form().chkTaskChart_5, form().chkTaskList_5, form().cmdChange_5, form().cmdSelectAll_5,
+           form().cmdDeSelectAll_5, form().cmdPrint_5}) {
+    EXPECT_LE(control->sizeHint().width(), control->width()) << control->objectName().toStdString() << " is cut";
+    EXPECT_LE(control->geometry().right(), control->parentWidget()->contentsRect().right())
+        << control->objectName().toStdString() << " stands out of its frame";
+  }
+}
 
 TEST_F(PrintLogTest, F2InTheOrganizerOpensThePrintFrameOnThePresentPeriodWithEveryMember) {
   Write_Log(Joined(Members(2), Tasks_Of("Member 03", 1)));
