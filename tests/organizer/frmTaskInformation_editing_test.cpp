@@ -6,6 +6,7 @@
 #include <QImage>
 
 #include "organizer/task_edit_window_test.h"
+#include "shell/frmOpenFile.h"
 
 namespace orrivane {
 namespace {
@@ -37,6 +38,16 @@ class frmTaskInformationEditingTest : public TaskEditWindowTest {
     Expect_Only_Message(organizer::Task_Edit_Message(code));
   }
   void Expect_Log_Unchanged() { EXPECT_EQ(Read_File(organizer::kScheduleFile), log_before_); }
+  // The dentist as the window saves it in the place of another record: under that record's
+  // number, with the reminder's status as the window shows it and no range flag (the times
+  // window wasn't visited).
+  static ScheduleRecord Dentist_Saved_As(int number, int status) {
+    ScheduleRecord saved = Dentist();
+    saved.Record_Number = number;
+    saved.Reminder_Status = status;
+    saved.Time_Range_Flag = Value();
+    return saved;
+  }
 
   std::string log_before_;
 };
@@ -223,12 +234,52 @@ TEST_F(frmTaskInformationEditingTest, ARecordDeletedMeanwhileReplacesTheLastReco
   Write_Reminders({});
   Click(information().cmdStatus);
   Save();
-  ScheduleRecord expected = Dentist();
-  expected.Record_Number = 2;
-  expected.Reminder_Status = 0;
-  expected.Time_Range_Flag = Value();
+  const ScheduleRecord expected = Dentist_Saved_As(2, 0);
   EXPECT_EQ(Read_File(organizer::kScheduleFile), Bytes_Of({Make_Person_Marker("Ben"), expected}));
   EXPECT_EQ(Read_File(organizer::kTaskReminderFile), "");
+}
+
+// The shown task deleted through the Organizer's own list and button: its number has gone from
+// the log, so the last record takes the window's task under its own number, and the reminder,
+// still on, follows that record to the end of the reminders.
+TEST_F(frmTaskInformationEditingTest, ATaskDeletedThroughTheOrganizerThenSavedReplacesTheLastRecord) {
+  Show_Dentist();
+  Click_Entry(organizer().lstScheduleList, organizer::Task_List_Entry(Dentist()));
+  machine().Answer_Next(vbYes, "Confirm Event Delete");
+  Click(organizer().cmdDeleteSelectedRecord);
+  ASSERT_EQ(Reminders().size(), 0u);
+  ASSERT_TRUE(information().isVisible()) << "a delete leaves the window standing";
+  Save();
+  const ScheduleRecord expected = Dentist_Saved_As(2, 1);
+  EXPECT_EQ(Read_File(organizer::kScheduleFile),
+            Bytes_Of({Make_Person_Marker("Anna"), Make_Person_Marker("Ben"), expected}));
+  EXPECT_EQ(Read_File(organizer::kTaskReminderFile), Bytes_Of({expected}));
+  EXPECT_FALSE(main().TRemin_Is_In_Use(false, "Evaluate"));
+}
+
+// Another log opened while the task stands shown: the task's number is not in it, so the opened
+// log's last record is the one replaced, and its reminders, none of that number, stay.
+TEST_F(frmTaskInformationEditingTest, AfterAnotherLogIsOpenedTheSaveReplacesThatLogsLastRecord) {
+  Show_Dentist();
+  const ScheduleRecord lunch = Task_At(7, "Cleo", 2001, "March", "07", "12", "00", "Lunch");
+  const ScheduleRecord gym = Task_Without_Reminder(8, "Cleo", 2001, "March", "08", "18", "00", "Gym");
+  organizer::samples::Write_Log("week.sdl", {Make_Person_Marker("Cleo"), lunch, gym});
+  When_Modal([this] {
+    frmOpenFile& open = Window<frmOpenFile>();
+    const auto found = open.filFileOpen->findItems("week.sdl", Qt::MatchExactly);
+    ASSERT_EQ(found.size(), 1);
+    open.filFileOpen->setCurrentItem(found.front());
+    Click(open.cmdOpen);
+  });
+  Trigger(organizer(), "mnuOpenSchedule");
+  Process_Events();
+  ASSERT_EQ(Read_File(organizer::kTaskReminderFile), Bytes_Of({lunch}));
+  Click(information().cmdStatus);
+  Save();
+  const ScheduleRecord expected = Dentist_Saved_As(8, 0);
+  EXPECT_EQ(Read_File(organizer::kScheduleFile), Bytes_Of({Make_Person_Marker("Cleo"), lunch, expected}));
+  EXPECT_EQ(Read_File(organizer::kTaskReminderFile), Bytes_Of({lunch}));
+  EXPECT_EQ(organizer().Save_File_Prompt_Flag, 1);
 }
 
 // ---- Closing ---------------------------------------------------------------------------------------
