@@ -22,11 +22,17 @@ bool Is_Menu_Key(const QWidget* window, const QKeySequence& keys) {
   return false;
 }
 
-// Enter belongs to a control that takes lines or chooses from a list, and to dialogs, which
-// press their default button themselves.
+// The open list of a combo box: Enter there chooses the entry. In any other list it presses the
+// default button, as a double click would.
+bool Is_Popup_List(const QWidget* focus) {
+  return qobject_cast<const QAbstractItemView*>(focus) != nullptr && focus->window()->windowType() == Qt::Popup;
+}
+
+// Enter belongs to a control that takes lines, to the open list of a combo box, and to dialogs,
+// which press their default button themselves.
 bool Keeps_Enter(const QWidget* focus) {
   return qobject_cast<const QTextEdit*>(focus) != nullptr || qobject_cast<const QPlainTextEdit*>(focus) != nullptr ||
-         qobject_cast<const QAbstractItemView*>(focus) != nullptr || qobject_cast<const QDialog*>(focus->window()) != nullptr;
+         Is_Popup_List(focus) || qobject_cast<const QDialog*>(focus->window()) != nullptr;
 }
 
 QPushButton* Default_Button(const QWidget* window) {

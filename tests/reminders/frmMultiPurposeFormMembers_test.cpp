@@ -1,5 +1,7 @@
 // The multi-purpose window's purposes of the Organizer: adding a group member, choosing one to
 // delete, choosing a task to delete or view, reached by the calendar windows' menu keys.
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QTest>
 
 #include "organizer/organizer_callers.h"
@@ -309,6 +311,38 @@ TEST_F(MultiPurposeMembersTest, EnterViewsTheChosenTaskAndEscapeCloses) {
   information().hide();
   Press_Keys(form(), QKeySequence(Qt::Key_Escape));
   EXPECT_FALSE(form().isVisible());
+}
+
+// A task picked in the list with the arrow keys is viewed with Enter from the list itself.
+TEST_F(MultiPurposeMembersTest, EnterInTheTaskListViewsTheTaskPickedWithTheArrowKeys) {
+  Write_Sample_Log();
+  Press_Keys(large(), QKeySequence("Ctrl+I"));
+  Choose_In_Combo(form().cboListOfPeople, "Anna");
+  form().lstListOfTasks->setFocus();
+  Press_Keys(form(), QKeySequence(Qt::Key_Down));
+  Press_Keys(form(), QKeySequence(Qt::Key_Down));
+  ASSERT_EQ(form().lstListOfTasks->currentItem()->text().toStdString(), "2001, 03Mar 05, 14:30 Dentist, #1");
+  Press_Keys(form(), QKeySequence(Qt::Key_Return));
+  Process_Events();
+  ASSERT_TRUE(information().isVisible());
+  EXPECT_EQ(Caption(information().lblTaskName), "Dentist");
+}
+
+// In the open list of the member box Enter chooses the member; it does not press View.
+TEST_F(MultiPurposeMembersTest, EnterInTheOpenMemberListChoosesTheMember) {
+  Write_Sample_Log();
+  Press_Keys(large(), QKeySequence("Ctrl+I"));
+  form().cboListOfPeople->setFocus();
+  form().cboListOfPeople->showPopup();
+  Process_Events();
+  QWidget* open_list = QApplication::focusWidget();
+  ASSERT_NE(open_list, nullptr);
+  QTest::keyClick(open_list, Qt::Key_Down);
+  QTest::keyClick(open_list, Qt::Key_Return);
+  Process_Events();
+  EXPECT_FALSE(information().isVisible());
+  EXPECT_FALSE(form().cboListOfPeople->view()->isVisible());
+  EXPECT_FALSE(Entries(form().lstListOfTasks).empty());
 }
 
 // The name typed for a new member and never added is not added by Enter in another purpose.
