@@ -97,6 +97,7 @@ frmAbout::frmAbout() : RowWindow("frmAbout", "About Orrivane", QSize(436, 474)) 
   Make_Buttons(kButtons, &frmAbout::CopyFair);
   connect(CmdViewGPLLiscense, &QPushButton::clicked, this, [this] { CmdViewGPLLiscense_Click(); });
   connect(cmdClose, &QPushButton::clicked, this, &QWidget::hide);
+  controls::Set_Cancel(cmdClose, true);  // Escape closes the window
 }
 
 std::string frmAbout::DataSource(int DataLine) const {

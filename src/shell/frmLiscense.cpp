@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QShowEvent>
 
+#include "platform/controls.h"
+
 namespace orrivane {
 
 namespace {
@@ -40,6 +42,7 @@ QFont Row_Font() {
 frmLiscense::frmLiscense() : RowWindow("frmLiscense", "License", QSize(640, 345)) {
   Make_Buttons(kButtons, &frmLiscense::Scroll);
   connect(cmdClose, &QPushButton::clicked, this, [this] { cmdClose_Click(); });
+  controls::Set_Cancel(cmdClose, true);  // Escape closes the window
 }
 
 std::string frmLiscense::DataSource(int DataLine) const {

@@ -214,5 +214,12 @@ TEST_F(frmAboutTest, ButtonsCarryTheirCaptionsAndStayClearOfTheRows) {
   EXPECT_GE(About().height(), controls::Px(4380 + 220 * 5) + 15);
 }
 
+TEST_F(frmAboutTest, EscapeClosesTheWindow) {
+  controls::Show_In_Front(About());
+  Process_Events();
+  Press_Keys(About(), QKeySequence(Qt::Key_Escape));
+  EXPECT_FALSE(About().isVisible());
+}
+
 }  // namespace
 }  // namespace orrivane

@@ -266,5 +266,12 @@ TEST_F(frmLiscenseTest, EveryRowFitsTheWidthOfTheWindow) {
   }
 }
 
+TEST_F(frmLiscenseTest, EscapeClosesTheWindow) {
+  controls::Show_In_Front(The_Window());
+  Process_Events();
+  Press_Keys(The_Window(), QKeySequence(Qt::Key_Escape));
+  EXPECT_FALSE(The_Window().isVisible());
+}
+
 }  // namespace
 }  // namespace orrivane
