@@ -24,8 +24,8 @@ struct ReminderLabels {
 std::string Reminder_Interval_Text(const Value& Interval_Days, const Value& Interval_Hours,
                                    const Value& Interval_Minutes);
 
-// The captions of the three kinds of reminder as lblMethod shows them. The second shortens
-// "Specified" to "Spec." to fit the label; the window has always shown it so.
+// The captions of the three kinds of reminder as lblMethod shows them. The second abbreviates its
+// middle word to fit the label; the window has always shown it so.
 inline constexpr std::string_view kOnlyOneReminderMethod = "Only One Reminder";
 inline constexpr std::string_view kSeriesFromSpecifiedTimeMethod = "Series-From Spec. Time";
 inline constexpr std::string_view kSeriesToSpecifiedTimeMethod = "Series-To Specified Time";
