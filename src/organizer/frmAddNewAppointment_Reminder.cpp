@@ -10,6 +10,7 @@
 #include "organizer/log_file.h"
 #include "organizer/new_task_reminder_keeper.h"
 #include "organizer/organizer_callers.h"
+#include "organizer/reminder_moment.h"
 #include "organizer/set_reminder_opening.h"
 #include "organizer/time_period_selection.h"
 #include "organizer/working_files.h"
@@ -33,24 +34,16 @@ using organizer::kTaskStart;
 // The window's own name, by which the reminder window knows whose values it sets.
 constexpr std::string_view kWindowName = "frmAddNewAppointment_Reminder";
 
-constexpr organizer::TwoDigitRange kHourBoxRange{0, 23};
-constexpr organizer::TwoDigitRange kMinuteBoxRange{0, 59};
-
-QStringList Texts(const std::vector<std::string>& texts) {
-  QStringList list;
-  for (const std::string& text : texts) list.append(QString::fromStdString(text));
-  return list;
-}
 QStringList Month_Names() {
   QStringList months;
   for (int month = 1; month <= 12; ++month) months.append(QString::fromStdString(engine::Full_Month_Name(month)));
   return months;
 }
-QStringList Dates() { return Texts(organizer::Two_Digit_Texts(organizer::kDateBoxRange)); }
-QStringList Centuries() { return Texts(organizer::Two_Digit_Texts(organizer::kCenturyBoxRange)); }
-QStringList Years() { return Texts(organizer::Two_Digit_Texts(organizer::kYearBoxRange)); }
-QStringList Hours() { return Texts(organizer::Two_Digit_Texts(kHourBoxRange)); }
-QStringList Minutes() { return Texts(organizer::Two_Digit_Texts(kMinuteBoxRange)); }
+QStringList Dates() { return controls::Texts(organizer::Two_Digit_Texts(organizer::kDateBoxRange)); }
+QStringList Centuries() { return controls::Texts(organizer::Two_Digit_Texts(organizer::kCenturyBoxRange)); }
+QStringList Years() { return controls::Texts(organizer::Two_Digit_Texts(organizer::kYearBoxRange)); }
+QStringList Hours() { return controls::Texts(organizer::Two_Digit_Texts(organizer::kHourBoxRange)); }
+QStringList Minutes() { return controls::Texts(organizer::Two_Digit_Texts(organizer::kMinuteBoxRange)); }
 
 // A row of a moment's frame: a label and the box beside it, with what the box offers.
 struct MomentRow {

@@ -25,14 +25,6 @@ using controls::Text_Of;
 constexpr const char* kFrameCaptions[W::kMoments] = {"Select New Starting Date\\Time",
                                                      "Select New Finish Date\\Time"};
 
-std::vector<std::string> Three_Letter_Months() {
-  std::vector<std::string> months;
-  for (int month = 1; month <= 12; ++month) {
-    months.push_back(engine::Define_Month(month, "Get Three Letter Month Name").text());
-  }
-  return months;
-}
-
 // ---- Geometry, in pixels -----------------------------------------------------------------------
 constexpr int kMargin = 12;
 constexpr int kFrameWidth = 310;
@@ -112,7 +104,8 @@ void frmChangeRecordTimes::Build_Moment(int index) {
   for (const MomentBox& row : kMomentBoxes) {
     (this->*row.label)[index] = Make_Label(frame, name(row.label_name), row.caption);
     QComboBox* box = (this->*row.box)[index] = controls::Make_Combo(frame, name(row.box_name), true);
-    reminder_boxes::Fill(box, row.range != nullptr ? organizer::Two_Digit_Texts(*row.range) : Three_Letter_Months());
+    reminder_boxes::Fill(box, row.range != nullptr ? organizer::Two_Digit_Texts(*row.range)
+                                                   : organizer::Three_Letter_Month_Texts());
     box->setMaxVisibleItems(12);
   }
   cmdSelect[index] = Make_Button(frame, name("cmdSelect"), "Select");

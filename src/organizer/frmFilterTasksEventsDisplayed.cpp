@@ -5,6 +5,7 @@
 
 #include "engine/calendar_engine.h"
 #include "organizer/frmScheduler_Reminder.h"
+#include "organizer/reminder_moment.h"
 #include "platform/controls.h"
 #include "platform/message_box.h"
 #include "platform/platform.h"
@@ -22,19 +23,9 @@ using organizer::kBeforeSide;
 
 constexpr FilterSide kBothSides[] = {kAfterSide, kBeforeSide};
 
-// The numbers from `first` to `last`, two digits each: "00" to "59", "01" to "31".
-QStringList Two_Digit_Numbers(int first, int last) {
-  QStringList numbers;
-  for (int n = first; n <= last; ++n) numbers.append(QString("%1").arg(n, 2, 10, QChar('0')));
-  return numbers;
-}
-
-QStringList Three_Letter_Months() {
-  QStringList months;
-  for (int month = 1; month <= 12; ++month) {
-    months.append(QString::fromStdString(engine::Define_Month(month, "Get Three Letter Month Name").text()));
-  }
-  return months;
+// "00" to "59", "01" to "31" and so on, for the boxes.
+QStringList Two_Digit_Numbers(organizer::TwoDigitRange range) {
+  return controls::Texts(organizer::Two_Digit_Texts(range));
 }
 
 // A box that starts empty; an editable one takes what is typed as it stands, with no completion
@@ -90,17 +81,18 @@ void frmFilterTasksEventsDisplayed::Build_Side(FilterSide side, QCheckBox* check
   check->setChecked(true);
   const auto name = [side](const char* control) { return controls::Array_Name(control, side); };
   lblMonth[side] = Make_Label(this, name("lblMonth"), "Month:");
-  ComboMonths[side] = Make_Box(this, name("ComboMonths"), Three_Letter_Months(), false);
+  ComboMonths[side] =
+      Make_Box(this, name("ComboMonths"), controls::Texts(organizer::Three_Letter_Month_Texts()), false);
   lblDate[side] = Make_Label(this, name("lblDate"), "Date:");
-  ComboDate[side] = Make_Box(this, name("ComboDate"), Two_Digit_Numbers(1, 31), false);
+  ComboDate[side] = Make_Box(this, name("ComboDate"), Two_Digit_Numbers(organizer::kDateBoxRange), false);
   lblCentury[side] = Make_Label(this, name("lblCentury"), "Century:");
-  ComboCentury[side] = Make_Box(this, name("ComboCentury"), Two_Digit_Numbers(16, 99), true);
+  ComboCentury[side] = Make_Box(this, name("ComboCentury"), Two_Digit_Numbers(organizer::kCenturyBoxRange), true);
   lblYear[side] = Make_Label(this, name("lblYear"), "Year:");
-  ComboYear[side] = Make_Box(this, name("ComboYear"), Two_Digit_Numbers(0, 99), false);
+  ComboYear[side] = Make_Box(this, name("ComboYear"), Two_Digit_Numbers(organizer::kYearBoxRange), false);
   lblHour[side] = Make_Label(this, name("lblHour"), "Hour:");
-  cboHour[side] = Make_Box(this, name("cboHour"), Two_Digit_Numbers(0, 23), false);
+  cboHour[side] = Make_Box(this, name("cboHour"), Two_Digit_Numbers(organizer::kHourBoxRange), false);
   lblMinute[side] = Make_Label(this, name("lblMinute"), "Minute:");
-  cboMinute[side] = Make_Box(this, name("cboMinute"), Two_Digit_Numbers(0, 59), false);
+  cboMinute[side] = Make_Box(this, name("cboMinute"), Two_Digit_Numbers(organizer::kMinuteBoxRange), false);
 }
 
 void frmFilterTasksEventsDisplayed::Place_Controls() {

@@ -119,6 +119,14 @@ std::vector<std::string> Two_Digit_Texts(TwoDigitRange range) {
   return texts;
 }
 
+std::vector<std::string> Three_Letter_Month_Texts() {
+  std::vector<std::string> months;
+  for (int month = 1; month <= 12; ++month) {
+    months.push_back(engine::Define_Month(month, "Get Three Letter Month Name").text());
+  }
+  return months;
+}
+
 // ---- The view and its caption -------------------------------------------------------------------
 
 std::string View_Caption(const ChartView& view) {

@@ -145,5 +145,7 @@ inline constexpr TwoDigitRange kCenturyBoxRange{16, 99};
 inline constexpr TwoDigitRange kYearBoxRange{0, 99};
 // "01" to "31" for the date box.
 std::vector<std::string> Two_Digit_Texts(TwoDigitRange range);
+// "Jan" to "Dec" for a month box.
+std::vector<std::string> Three_Letter_Month_Texts();
 
 }  // namespace orrivane::organizer

@@ -105,6 +105,12 @@ void Show_In_Front(QWidget& window) {
   window.activateWindow();
 }
 
+QStringList Texts(const std::vector<std::string>& texts) {
+  QStringList list;
+  for (const std::string& text : texts) list.append(QString::fromStdString(text));
+  return list;
+}
+
 void Enable_Input(QWidget* input, bool enabled) {
   input->setEnabled(enabled);
   Set_Box_Color(input, enabled ? kWindowBackground : kButtonFace);

@@ -7,10 +7,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/colours.h"
 
@@ -65,6 +67,9 @@ unsigned Back_Color(const QWidget* widget);
 // The face of a text or combo box in a program colour (the window background of an enabled box,
 // the button face of a disabled one), read back by Back_Color.
 void Set_Box_Color(QWidget* box, unsigned colour);
+
+// The entries of a box, from the core's texts.
+QStringList Texts(const std::vector<std::string>& texts);
 
 // An input enabled with the face of a window's background, or disabled with a button's face.
 void Enable_Input(QWidget* input, bool enabled);

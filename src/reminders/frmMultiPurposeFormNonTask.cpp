@@ -6,6 +6,7 @@
 #include "engine/vocabulary.h"
 #include "organizer/frmScheduler_Reminder.h"
 #include "organizer/organizer_callers.h"
+#include "organizer/reminder_moment.h"
 #include "organizer/time_period_selection.h"
 #include "organizer/working_files.h"
 #include "platform/controls.h"
@@ -24,6 +25,9 @@ namespace {
 
 // The frames' common measures and their way of making controls.
 using namespace multi_purpose_frames;
+using controls::Texts;
+using organizer::Three_Letter_Month_Texts;
+using organizer::Two_Digit_Texts;
 
 // ---- Frame 3's geometry, in pixels ----------------------------------------------------------------
 constexpr int kWidth3 = Frame_Width(reminders::kNonTaskRemindersFrame);
@@ -61,22 +65,6 @@ constexpr int kBottomRow4 = kHeight4 - kMargin - kButtonHeight;
 
 // The boxes' lists: hours "00" to "23", minutes "00" to "59", "Jan" to "Dec", dates "01" to
 // "31", the centuries "19" to "21" and the years "00" to "99".
-constexpr organizer::TwoDigitRange kHourRange{0, 23};
-constexpr organizer::TwoDigitRange kMinuteRange{0, 59};
-constexpr organizer::TwoDigitRange kCenturyRange{19, 21};
-
-QStringList Texts(const std::vector<std::string>& texts) {
-  QStringList list;
-  for (const std::string& text : texts) list.append(QString::fromStdString(text));
-  return list;
-}
-
-QStringList Three_Letter_Months() {
-  QStringList months;
-  for (int month = 1; month <= 12; ++month) months.append(QString::fromStdString(engine::Full_Month_Name(month)).left(3));
-  return months;
-}
-
 }  // namespace
 
 void frmMultiPurposeForm::Build_Non_Task_Frames() {
@@ -116,14 +104,14 @@ void frmMultiPurposeForm::Build_Non_Task_Frames() {
     int top;
   };
   const BoxRow boxes[] = {
-      {&F::cboHour, "cboHour", Texts(organizer::Two_Digit_Texts(kHourRange)), kTextLeft, kComboTop},
-      {&F::cboMinute, "cboMinute", Texts(organizer::Two_Digit_Texts(kMinuteRange)), kSecondComboLeft, kComboTop},
-      {&F::ComboMonths, "ComboMonths", Three_Letter_Months(), kTextLeft, kComboTop + kComboStep},
-      {&F::ComboDate, "ComboDate", Texts(organizer::Two_Digit_Texts(organizer::kDateBoxRange)), kSecondComboLeft,
+      {&F::cboHour, "cboHour", Texts(Two_Digit_Texts(organizer::kHourBoxRange)), kTextLeft, kComboTop},
+      {&F::cboMinute, "cboMinute", Texts(Two_Digit_Texts(organizer::kMinuteBoxRange)), kSecondComboLeft, kComboTop},
+      {&F::ComboMonths, "ComboMonths", Texts(Three_Letter_Month_Texts()), kTextLeft, kComboTop + kComboStep},
+      {&F::ComboDate, "ComboDate", Texts(Two_Digit_Texts(organizer::kDateBoxRange)), kSecondComboLeft,
        kComboTop + kComboStep},
-      {&F::ComboCentury, "ComboCentury", Texts(organizer::Two_Digit_Texts(kCenturyRange)), kTextLeft,
+      {&F::ComboCentury, "ComboCentury", Texts(Two_Digit_Texts(organizer::kReminderCenturyRange)), kTextLeft,
        kComboTop + 2 * kComboStep},
-      {&F::ComboYear, "ComboYear", Texts(organizer::Two_Digit_Texts(organizer::kYearBoxRange)), kSecondComboLeft,
+      {&F::ComboYear, "ComboYear", Texts(Two_Digit_Texts(organizer::kYearBoxRange)), kSecondComboLeft,
        kComboTop + 2 * kComboStep},
   };
   for (const BoxRow& row : boxes) {

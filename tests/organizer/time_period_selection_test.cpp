@@ -248,6 +248,11 @@ TEST(Time_Period_Selection, TheBoxesHoldTwoDigitTexts) {
   EXPECT_EQ(Two_Digit_Texts(kCenturyBoxRange).front(), "16");
   EXPECT_EQ(Two_Digit_Texts(kYearBoxRange).front(), "00");
   EXPECT_EQ(Two_Digit_Texts(kYearBoxRange).back(), "99");
+  const std::vector<std::string> months = Three_Letter_Month_Texts();
+  ASSERT_EQ(months.size(), 12u);
+  EXPECT_EQ(months.front(), "Jan");
+  EXPECT_EQ(months[8], "Sep");
+  EXPECT_EQ(months.back(), "Dec");
   const auto names = Period_Names();
   EXPECT_EQ(names[0], "Early Morning");
   EXPECT_EQ(names[3], "Evening");
